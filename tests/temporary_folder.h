@@ -1,0 +1,46 @@
+// A folder of its own for one test, gone with everything in it at the end.
+#pragma once
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <set>
+#include <stdlib.h>
+#include <string>
+
+namespace warhost {
+
+class TemporaryFolder {
+public:
+    TemporaryFolder()
+    {
+        std::string name = (std::filesystem::temp_directory_path() / "warhost-test-XXXXXX").string();
+        folder_ = ::mkdtemp(name.data());
+        std::filesystem::permissions(folder_, std::filesystem::perms{0755});
+    }
+    TemporaryFolder(TemporaryFolder const&) = delete;
+    TemporaryFolder& operator=(TemporaryFolder const&) = delete;
+    ~TemporaryFolder() { std::filesystem::remove_all(folder_); }
+
+    std::string path(std::string const& name = {}) const { return name.empty() ? folder_ : folder_ + "/" + name; }
+    void write(std::string const& name, std::string const& bytes) const
+    {
+        std::ofstream{path(name), std::ios::binary} << bytes;
+    }
+    std::string read(std::string const& name) const
+    {
+        std::ifstream file{path(name), std::ios::binary};
+        return {std::istreambuf_iterator<char>{file}, {}};
+    }
+    std::set<std::string> names() const
+    {
+        std::set<std::string> found;
+        for (auto const& entry : std::filesystem::directory_iterator{folder_}) found.insert(entry.path().filename());
+        return found;
+    }
+
+private:
+    std::string folder_;
+};
+
+} // namespace warhost
