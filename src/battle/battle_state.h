@@ -1,0 +1,28 @@
+// What the battle in progress has come to.
+#pragma once
+
+namespace warhost {
+
+enum BattleWinner : int { side_a_won = 0, side_b_won = 1, tie = 2 };
+
+constexpr int winner_of(int ResultA, int ResultB)
+{
+    return ResultA > ResultB ? side_a_won : ResultA < ResultB ? side_b_won : tie;
+}
+
+/// All zero before the first roll, so that Side A then counts as the winner.
+struct BattleState {
+    int ResultA = 0;
+    int ResultB = 0;
+    int Winner = side_a_won;
+    int WinMargin = 0;
+    int CasRollBonus = 0;
+    int LoserCasualty = 0; // percent
+    int CasRangeLow = 0;   // percent of LoserCasualty
+    int CasRangeHigh = 0;
+    float VictorCasualty = 0; // percent
+
+    bool operator==(BattleState const&) const = default;
+};
+
+} // namespace warhost

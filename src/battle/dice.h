@@ -1,0 +1,27 @@
+// What a random value turns into.
+#pragma once
+
+#include "battle/random.h"
+
+#include <cstdint>
+#include <type_traits>
+
+namespace warhost {
+
+/// A whole number, uniform over low to high, both included: floor(r x (high - low + 1)) + low, r one value of the
+/// source. low <= high.
+template <class Source> int roll_between(Source& random, int low, int high)
+{
+    auto const count = static_cast<std::uint32_t>(high - low + 1);
+    if constexpr (std::is_same_v<Source, Generator>) {
+        // A value of 32 bits times a small count is exact in a double, so that integers give the same number; faster.
+        return static_cast<int>((std::uint64_t{random.draw()} * count) >> 32U) + low;
+    } else {
+        return static_cast<int>(random.next() * count) + low;
+    }
+}
+
+/// 1 to 20.
+template <class Source> int roll_d20(Source& random) { return roll_between(random, 1, 20); }
+
+} // namespace warhost

@@ -1,0 +1,118 @@
+#include "army/modifier_options.h"
+#include "battle/dice.h"
+#include "battle/losses.h"
+#include "battle/outcome_table.h"
+#include "battle/victor_table.h"
+#include "ui/rich_text.h"
+
+#include <gtest/gtest.h>
+#include <string>
+
+namespace warhost {
+namespace {
+
+/// FNV-1a, of every text followed by a line feed.
+template <class Table, class Text> std::uint64_t fingerprint(Table const& table, Text const& text_of)
+{
+    std::uint64_t hash = 0xCBF29CE484222325;
+    for (auto const& row : table) {
+        for (char const c : text_of(row) + "\n") hash = (hash ^ static_cast<unsigned char>(c)) * 0x100000001B3;
+    }
+    return hash;
+}
+
+TEST(Tables, keep_their_texts_to_the_letter_double_blanks_and_last_blanks_included)
+{
+    EXPECT_EQ(fingerprint(options, [](auto& row) { return std::string{row.caption} + "\n" + std::string{row.tag}; }),
+              0xF42598E1D5E15ED2);
+    EXPECT_EQ(fingerprint(outcome_table, [](auto& row) { return std::string{row.account}; }), 0xAE00AB50B22BAA6D);
+    EXPECT_EQ(fingerprint(victor_table, [](auto& row) { return std::string{row.account}; }), 0x00C9F1684E12B0F1);
+    EXPECT_EQ(rich_text_document("\\b1 x"),
+              R"({\rtf1\ansi{\fonttbl{\f0\fswiss\fcharset0 MS Sans Serif;\f1\fswiss\fcharset0 Courier New;}})"
+              R"({\colortbl ;\red255\green0\blue0;\red0\green0\blue255;}\f0\fs20 \b1 x})");
+}
+
+TEST(OutcomeTable, steps_exactly_at_each_margin)
+{
+    // clang-format off
+    struct { int first, last, percent; } const rows[] = {
+        {0, 0, 10}, {1, 2, 10}, {3, 4, 15}, {5, 6, 20}, {7, 8, 25}, {9, 10, 30}, {11, 13, 45}, {14, 16, 50},
+        {17, 20, 65}, {21, 23, 75}, {24, 27, 85}, {28, 30, 90}, {31, 10000, 100},
+    };
+    // clang-format on
+    for (auto const& [first, last, percent] : rows) {
+        ASSERT_EQ(outcome_of(first), outcome_of(last)) << first;
+        EXPECT_EQ(outcome_of(first)->percent, percent) << first;
+        EXPECT_NE(outcome_of(last), outcome_of(last + 1)) << last;
+    }
+    EXPECT_EQ(outcome_of(10001), nullptr);
+    EXPECT_EQ(outcome_of(64000), nullptr);
+    // clang-format off
+    constexpr int bonuses[][2] = {{0, 0}, {4, 0}, {5, 1}, {9, 1}, {10, 2}, {14, 2}, {15, 3}, {19, 3}, {20, 4}, {24, 4}, {25, 5}, {64000, 5}};
+    // clang-format on
+    for (auto const& [margin, bonus] : bonuses) { EXPECT_EQ(casualty_roll_bonus(margin), bonus) << margin; }
+}
+
+TEST(VictorTable, takes_the_first_row_that_applies)
+{
+    enum Checked { none, minus, plus, both };
+    constexpr int no_row = 13;
+    // clang-format off
+    struct { int roll, bonus; Checked boxes; int row; } const cases[] = {
+        {6, 5, none, 1}, {1, 0, plus, 6}, {6, 0, plus, 1}, {-4, 0, minus, 2}, {1, 0, both, 2}, {20, 0, none, 3},
+        {15, 0, minus, 3}, {25, 5, none, 3}, {25, 0, plus, 4}, {20, 0, both, 4}, {1, 0, minus, 5}, {-999, 0, minus, 5},
+        {1, 2, none, 6}, {-999, 0, none, 6}, {1, -5, both, 5}, {2, 0, none, 7}, {5, 0, none, 7}, {6, 0, none, 8},
+        {11, 0, none, 8}, {12, 0, none, 9}, {15, 0, none, 9}, {16, 0, none, 10}, {19, 0, none, 10}, {20, 0, plus, 11},
+        {999, 0, plus, 11}, {20, 5, none, 12}, {999, 0, none, 12}, {20, 6, minus, 12}, {-1000, 0, none, no_row},
+        {1000, 0, both, no_row}, {1000, 980, none, 3}, {-1000, -1001, none, 1}, {30000, -30000, none, no_row},
+    };
+    // clang-format on
+    constexpr int ranges[][2] = {{100, 100}, {110, 110}, {2, 2},   {0, 0},  {100, 100}, {90, 90},
+                                 {20, 80},   {10, 60},   {10, 30}, {5, 20}, {2, 2},     {5, 5}};
+    for (auto const& [roll, bonus, boxes, row] : cases) {
+        SCOPED_TRACE(testing::Message() << roll << " with " << bonus << ", boxes " << boxes);
+        bool const minus5 = boxes == minus || boxes == both;
+        bool const plus5 = boxes == plus || boxes == both;
+        auto const* const found = victor_row_of({roll, roll - effective_bonus(bonus, minus5, plus5), minus5, plus5});
+        if (row == no_row) {
+            EXPECT_EQ(found, nullptr);
+            continue;
+        }
+        ASSERT_EQ(found - victor_table.data() + 1, row);
+        EXPECT_EQ(found->low, ranges[row - 1][0]);
+        EXPECT_EQ(found->high, ranges[row - 1][1]);
+        EXPECT_EQ(found->box, row <= 2 ? Box::minus5 : row <= 4 ? Box::plus5 : Box::none);
+    }
+}
+
+TEST(Losses, round_halves_away_from_zero_and_never_stop_at_zero)
+{
+    // clang-format off
+    struct { int soldiers, percent, loss; } const cases[] = {
+        {25, 10, 3}, {15, 10, 2}, {5, 10, 1}, {4, 10, 0}, {250, 45, 113}, {0, 100, 0}, {10, 110, 11}, {-25, 10, -3},
+        {-4, 10, 0}, {-15, 90, -14}, {100, -5, -5}, {2000000000, 100, 2000000000},
+    };
+    // clang-format on
+    for (auto const& [soldiers, percent, loss] : cases) EXPECT_EQ(row_loss(soldiers, percent), loss) << soldiers;
+}
+
+TEST(Dice, reach_both_ends_of_their_range_and_nothing_beyond)
+{
+    struct Fixed {
+        double value;
+        double next() const { return value; }
+    };
+    double const last = 0x1.FFFFFFFEp-1; // the largest value of 32 random bits
+    for (auto const& [value, face] :
+         {std::pair{0.0, 1}, {0.049, 1}, {0.05, 2}, {0.5, 11}, {0.949, 19}, {0.95, 20}, {last, 20}}) {
+        Fixed source{value};
+        EXPECT_EQ(roll_d20(source), face) << value;
+    }
+    Fixed low{0}, high{last};
+    EXPECT_EQ(roll_between(low, 20, 80), 20);
+    EXPECT_EQ(roll_between(high, 20, 80), 80);
+    EXPECT_EQ(roll_between(high, 0, 0), 0);
+}
+
+} // namespace
+} // namespace warhost
