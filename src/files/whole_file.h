@@ -1,0 +1,21 @@
+// Reading a file whole, and replacing one so that its path always holds either the old file or the new one.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace warhost {
+
+/// Whether path (UTF-8) names something that exists and is no folder. Never fails: what cannot be asked is false.
+bool FileExists(std::string const& path);
+
+/// The bytes of an ordinary file, opened for reading only. Throws a Failure that names the path and the cause.
+std::string read_file(std::string const& path);
+
+/// Puts bytes in place of the file at path, or makes it: written to a temporary file in the same folder, flushed to
+/// the disk, renamed over path. A symbolic link keeps pointing to its target, which is replaced; an existing file's
+/// permissions are kept. Throws a Failure that names the path and the cause; the old file is then whole and no
+/// temporary file remains.
+void replace_file(std::string const& path, std::string_view bytes);
+
+} // namespace warhost
