@@ -1,0 +1,89 @@
+#include "files/army_format.h"
+#include "files/whole_file.h"
+#include "ui/main.h"
+
+#include <algorithm>
+
+namespace warhost {
+
+namespace {
+
+constexpr char const* file_extension = ".Army";
+constexpr char const* file_filter = "Warhost Army Files (*.Army)|*.Army|All Files|*.*";
+
+std::string proposed_file_name(std::string name)
+{
+    constexpr std::string_view not_in_names = "\\/:*?\"<>|.";
+    std::replace_if(
+        name.begin(), name.end(), [&](char c) { return not_in_names.find(c) != std::string_view::npos; }, '_');
+    return name + file_extension;
+}
+
+} // namespace
+
+bool Main::refused_on_combat_tab()
+{
+    if (army_tab_selected()) return false;
+    desktop_.message_box(
+        {.text = "Please click on either the Side A or Side B tab before using this menu.", .icon = Icon::exclamation});
+    return true;
+}
+
+void Main::cmdLoadArmy_Click()
+{
+    if (refused_on_combat_tab()) return;
+    step([&] {
+        auto const path = desktop_.file_dialog({.kind = FileDialogKind::open,
+                                                .title = "Load Warhost Army File",
+                                                .default_extension = file_extension,
+                                                .filter = file_filter,
+                                                .file_name = {},
+                                                .file_must_exist = true,
+                                                .folder_must_exist = true,
+                                                .hide_read_only = true});
+        if (!path) return;
+        if (!FileExists(*path)) {
+            desktop_.message_box({.text = "File not found."});
+            return;
+        }
+        LoadArmy(*path);
+        CurArmy_Save();
+        CurArmy_Update();
+        CalcTotal();
+    });
+    ErrReport("loading an army file");
+}
+
+void Main::cmdSaveArmy_Click()
+{
+    if (refused_on_combat_tab()) return;
+    step([&] {
+        auto const path = desktop_.file_dialog({.kind = FileDialogKind::save,
+                                                .title = "Save Warhost Army File",
+                                                .default_extension = file_extension,
+                                                .filter = file_filter,
+                                                .file_name = proposed_file_name(CurArmy.Name),
+                                                .folder_must_exist = true,
+                                                .hide_read_only = true,
+                                                .overwrite_prompt = true});
+        if (!path) return;
+        SaveArmy(*path);
+        CurArmy_Save();
+        CurArmy_Update();
+    });
+    ErrReport("Saving an army file");
+}
+
+void Main::LoadArmy(std::string const& path)
+{
+    step([&] { CurArmy = decode_army(read_file(path)); });
+    ErrReport("Loading an army");
+}
+
+void Main::SaveArmy(std::string const& path)
+{
+    step([&] { replace_file(path, encode_army(CurArmy)); });
+    ErrReport("Saving an army");
+}
+
+} // namespace warhost

@@ -1,0 +1,145 @@
+#include "army/checked.h"
+#include "battle/dice.h"
+#include "battle/losses.h"
+#include "battle/outcome_table.h"
+#include "battle/victor_table.h"
+#include "ui/main.h"
+#include "ui/rich_text.h"
+
+#include <array>
+#include <cstdlib>
+
+namespace warhost {
+
+namespace {
+
+/// Where each side's losses go: Index 0 for Side A, 1 for Side B.
+int loser_index(int Winner) { return Winner == side_a_won ? 1 : 0; }
+int victor_index(int Winner) { return 1 - loser_index(Winner); }
+
+} // namespace
+
+void Main::cmdRollAll_Click()
+{
+    chkPlus5.set_state(0);
+    chkMinus5.set_state(0);
+    cmdRoll_Click(0);
+    cmdRoll_Click(1);
+    cmdRollCasualty_Click();
+    cmdRollVictorCas_Click();
+}
+
+void Main::cmdRoll_Click(int Index)
+{
+    int const die = roll_d20(random_);
+    txtResult(Index).set_text(plain_text(die + TextToInt(txtTotalMod(Index).text())));
+}
+
+void Main::txtResult_Change()
+{
+    constexpr std::array winner_captions{"Side A", "Side B", "Tie!"};
+    battle.ResultA = TextToInt(txtResult(0).text());
+    battle.ResultB = TextToInt(txtResult(1).text());
+    battle.Winner = winner_of(battle.ResultA, battle.ResultB);
+    battle.WinMargin = std::abs(battle.ResultA - battle.ResultB);
+    lblWinner.set_caption(winner_captions.at(static_cast<std::size_t>(battle.Winner)));
+    lblWinBy.set_caption(plain_text(battle.WinMargin));
+    Outcome const* const outcome = outcome_of(battle.WinMargin);
+    txtBattleResults.set_document(rich_text_document(outcome != nullptr ? outcome->account : ""));
+    battle.CasRollBonus = casualty_roll_bonus(battle.WinMargin);
+    txtCasRollBonus.set_text(plain_text(battle.CasRollBonus));
+    txtLoserCasualty.set_text(plain_text(outcome != nullptr ? outcome->percent : 0));
+    if (battle.Winner == tie) txtVictorCasRoll_Change();
+}
+
+void Main::txtLoserCasualty_Change()
+{
+    lblLoserPercent.set_caption(txtLoserCasualty.text() + "%");
+    battle.LoserCasualty = TextToInt(txtLoserCasualty.text());
+    spread_losses(loser_index(battle.Winner), battle.LoserCasualty);
+}
+
+int Main::effective_casualty_bonus()
+{
+    return effective_bonus(TextToInt(txtCasRollBonus.text()), chkMinus5.state() == 1, chkPlus5.state() == 1);
+}
+
+void Main::cmdRollCasualty_Click()
+{
+    int const die = roll_d20(random_);
+    txtVictorCasRoll.set_text(plain_text(die + effective_casualty_bonus()));
+}
+
+void Main::txtVictorCasRoll_Change()
+{
+    int const roll = TextToInt(txtVictorCasRoll.text());
+    VictorRow const* const row =
+        victor_row_of({roll, roll - effective_casualty_bonus(), chkMinus5.state() == 1, chkPlus5.state() == 1});
+    std::string_view account;
+    if (row != nullptr) {
+        account = row->account;
+        battle.CasRangeLow = row->low;
+        battle.CasRangeHigh = row->high;
+        if (row->box == Box::minus5) chkMinus5.set_state(1);
+        if (row->box == Box::plus5) chkPlus5.set_state(1);
+    }
+    if (battle.Winner == tie) {
+        account = tie_account;
+        battle.CasRangeLow = battle.CasRangeHigh = tie_percent;
+        cmdRollVictorCas_Click();
+        txtVictorCasPercent_Change();
+    }
+    lblCasRange.set_caption(battle.CasRangeLow == battle.CasRangeHigh
+                                ? plain_text(battle.CasRangeLow)
+                                : plain_text(battle.CasRangeLow) + " to " + plain_text(battle.CasRangeHigh));
+    txtVictorDesc.set_document(rich_text_document(account));
+}
+
+void Main::cmdRollVictorCas_Click()
+{
+    txtVictorCasPercent.set_text(plain_text(roll_between(random_, battle.CasRangeLow, battle.CasRangeHigh)));
+}
+
+void Main::txtVictorCasPercent_Change()
+{
+    int const share = TextToInt(txtVictorCasPercent.text());
+    battle.VictorCasualty = victor_casualty(battle.LoserCasualty, share);
+    txtVictorCas.set_text(hundredths_as_tenths(std::int64_t{battle.LoserCasualty} * share, desktop_.number_format()));
+}
+
+void Main::txtVictorCas_Change() { spread_losses(victor_index(battle.Winner), TextToInt(txtVictorCas.text())); }
+
+void Main::spread_losses(int Index, int percent)
+{
+    for (int row = 0; row < unit_rows; ++row) {
+        txtLoses(unit_rows * Index + row).set_text(plain_text(row_loss(record_of(Index).UnitNum.at(row), percent)));
+    }
+}
+
+void Main::cmdApplyCasualties_Click(int Index)
+{
+    Army& own = record_of(Index);
+    Army& other = record_of(1 - Index);
+    Army copy = own;
+    for (int row = 0; row < unit_rows; ++row) {
+        int const field = unit_rows * Index + row;
+        std::int32_t& soldiers = copy.UnitNum.at(row);
+        quiet_step([&] { soldiers = checked_difference(soldiers, TextToLong(txtLoses(field).text())); });
+        txtANum(field).set_text(plain_text(soldiers));
+    }
+    CurArmy = own = copy;
+    quiet_step([&] { CalcTotalNo(); });
+    CalcTroopRatio(Index + 1);
+    quiet_step([&] { CalcArmyTotal(); });
+    own = CurArmy;
+    if (CurArmy.TotalNo <= 0) {
+        desktop_.message_box({.text = std::string{Index == 0 ? "Side A" : "Side B"} + " has been annihilated!"});
+    }
+    CurArmy = other;
+    quiet_step([&] { CalcArmyTotal(); });
+    other = CurArmy;
+    txtTotalMod(0).set_text(plain_text(ArmyA.TotalMod));
+    txtTotalMod(1).set_text(plain_text(ArmyB.TotalMod));
+}
+
+} // namespace warhost

@@ -1,0 +1,30 @@
+#include "files/whole_file.h"
+#include "ui/main.h"
+
+namespace warhost {
+
+void Main::ErrReport(std::string const& context)
+{
+    if (pending_error.number == 0) return;
+    std::string text = "Error " + plain_text(pending_error.number) + ": '" + pending_error.text + "'.\r\n";
+    if (!context.empty()) text += "Raised while " + context + "\r\n";
+    text += "\r\nPress Ignore to continue.\r\n"
+            "If you press Abort, the program will end and you will lose any unsaved data."
+            "\r\nIf this error occurs again, try reinstalling Gamemind.\r\n";
+    auto const answer =
+        desktop_.message_box({text, "Error!", Buttons::abort_retry_ignore, Icon::critical, Answer::ignore});
+    if (answer == Answer::abort) desktop_.end_program();
+    pending_error = {};
+}
+
+bool Main::CheckFile(std::string const& path)
+{
+    if (FileExists(path)) return true;
+    desktop_.message_box({"File '" + path +
+                              "' not found. Make sure the file hasn't been moved or deleted. Please reinstall the "
+                              "program if this occurs again.",
+                          "File Not Found", Buttons::ok, Icon::exclamation, Answer::ok});
+    return false;
+}
+
+} // namespace warhost

@@ -1,0 +1,57 @@
+#include "ui/simulation_report.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+
+namespace warhost {
+
+std::string simulation_report(Tally const& tally, NumberFormat const& format)
+{
+    auto const battles = static_cast<double>(tally.battles());
+    auto const share = [&](int winner) {
+        return one_decimal(static_cast<double>(tally.won_by(winner)) / battles * 100, format) + "% of the time\r\n";
+    };
+    auto const side = [&](int Index, int winner) {
+        return "   Wins: " + share(winner) +
+               "   Average casualties: " + one_decimal(tally.casualties(Index) / battles, format) + "%\r\n";
+    };
+    return "Battle Results\r\n"
+           "--------------\r\n"
+           "Side A\r\n" +
+           side(0, side_a_won) +
+           "\r\n"
+           "Side B\r\n" +
+           side(1, side_b_won) +
+           "\r\n"
+           "Tied:\r\n"
+           "   " +
+           share(tie) + "\r\n";
+}
+
+namespace {
+
+/// Two significant digits, rounded up so that the margin holds.
+std::string margin_text(double margin, NumberFormat const& format)
+{
+    int const decimals = std::clamp(1 - static_cast<int>(std::floor(std::log10(std::max(margin, 1e-9)))), 0, 9);
+    double const scale = std::pow(10, decimals);
+    std::array<char, 32> buffer{};
+    auto* const end = std::to_chars(buffer.begin(), buffer.end(), std::ceil(margin * scale) / scale,
+                                    std::chars_format::fixed, decimals)
+                          .ptr;
+    std::string text{buffer.begin(), end};
+    if (auto const point = text.find('.'); point != std::string::npos) text.replace(point, 1, format.decimal);
+    return text;
+}
+
+} // namespace
+
+std::string simulation_margin(Tally const& tally, NumberFormat const& format)
+{
+    double const casualties = std::max(tally.casualty_margin(0), tally.casualty_margin(1));
+    return "95 times in 100, wins and ties are at most " + margin_text(share_margin(tally.battles()), format) +
+           " points off, average casualties at most " + margin_text(casualties, format) + ".";
+}
+
+} // namespace warhost

@@ -1,0 +1,89 @@
+#include "ui/rich_text_reader.h"
+
+#include "ui/rich_text.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace warhost {
+
+namespace {
+
+/// The text with bold runs in brackets and a bar between paragraphs.
+std::string told(std::string_view document)
+{
+    std::string story;
+    bool first = true;
+    for (auto const& paragraph : read_rich_text(document)) {
+        if (!first) story += '|';
+        first = false;
+        for (auto const& run : paragraph) story += run.bold ? "[" + run.text + "]" : run.text;
+    }
+    return story;
+}
+
+std::string repeated(std::string_view part, int times)
+{
+    std::string text;
+    for (int i = 0; i < times; ++i) text += part;
+    return text;
+}
+
+} // namespace
+
+TEST(RichText, the_form_s_own_documents_show_their_text_look_and_lines)
+{
+    auto const shown = read_rich_text(rich_text_document("\\b1 Twice!\\b0\\par 5% of <b>all</b> &amp; more. "));
+    RichTextRun const heading{"Twice!", true, "MS Sans Serif", 10, {}};
+    RichTextRun const account{"5% of <b>all</b> &amp; more. ", false, "MS Sans Serif", 10, {}};
+    EXPECT_EQ(shown, (std::vector<RichTextParagraph>{{heading}, {account}}));
+    EXPECT_EQ(told(rich_text_document("")), "");
+
+    auto const red = read_rich_text(rich_text_document("a{\\f1\\fs36\\cf1 b}c")).front();
+    ASSERT_EQ(red.size(), 3U);
+    EXPECT_EQ(red[1], (RichTextRun{"b", false, "Courier New", 18, RichTextColour{255, 0, 0}}));
+    EXPECT_EQ(red[2], (RichTextRun{"c", false, "MS Sans Serif", 10, {}}));
+}
+
+TEST(RichText, markup_ends_where_it_should_and_unknown_markup_shows_nothing)
+{
+    struct {
+        char const *story, *document, *expected;
+    } const rows[] = {
+        {"one blank belongs to a word", R"({\rtf1 a\b  b\b0 c})", "a[ b]c"},
+        {"a group takes its look back", R"({\rtf1 a{\b b{\b0 c}d}e})", "a[b]c[d]e"},
+        {"escaped", R"({\rtf1 \\b\{\}})", "\\b{}"},
+        {"unknown words and numbers", R"({\rtf1\foo\bar-12 x\baz7y})", "xy"},
+        {"unknown destinations, nested", R"({\rtf1 a{\*\gen {b}\b c\par}d{\info e}})", "ad"},
+        {"bytes in hex", R"({\rtf1 \'80\'e9\'zz})", "\u20ac\u00e9zz"},
+        {"raw bytes of the code page", "{\\rtf1 \x80\xe9}", "\u20ac\u00e9"},
+        {"raw bytes of UTF-8", "{\\rtf1 \u20ac\u00e9}", "\u20ac\u00e9"},
+        {"characters with substitutes", R"({\rtf1 \u8364?\u233\'e9\uc2\u-4051 ab{\uc0\u97}c})", "\u20ac\u00e9\uf02dac"},
+        {"a character of two halves", R"({\rtf1 \u-10179?\u-8704?})", "\U0001F600"},
+        {"half a character", R"({\rtf1 \u-10179?a\u-8704?})", "\uFFFDa\uFFFD"},
+        {"line ends of the file", "{\\rtf1 a\r\nb\\par\r\nc\\line d}", "ab|c|d"},
+        {"binary data", R"({\rtf1 a\bin3 {}}b})", "ab"},
+        {"nothing behind the end", R"({\rtf1 a}b\par{c)", "a"},
+    };
+    for (auto const& row : rows) {
+        SCOPED_TRACE(row.story);
+        EXPECT_EQ(told(row.document), row.expected);
+    }
+}
+
+TEST(RichText, damaged_and_enormous_documents_are_read_to_their_end)
+{
+    std::string const whole = rich_text_document(R"(\b1 A\'e9\u-10179?\u-8704?{\*\x y}\b0\par \bin9 z)");
+    for (std::size_t length = 0; length < whole.size(); ++length) {
+        EXPECT_FALSE(read_rich_text(std::string_view{whole}.substr(0, length)).empty()) << length;
+    }
+
+    int const many = 100'000; // no EXPECT_EQ below: it would print them
+    EXPECT_TRUE(told(repeated("{", many) + "a" + repeated("}", many)) == "a");
+    EXPECT_TRUE(told("{" + repeated("\\b99999999999999999999 a\\b0", many) + "}") == "[" + repeated("a", many) + "]");
+    EXPECT_TRUE(told("{{\\fonttbl\\f0 " + repeated("n", many) + ";}" + repeated("a\\b b\\b0 ", many) + "}") ==
+                repeated("a[b]", many));
+}
+
+} // namespace warhost
