@@ -1,0 +1,190 @@
+// fight ARMY_A ARMY_B [SEED]: a battle between two army files in the terminal, on the form without a screen.
+
+#include "army/modifier_options.h"
+#include "ui/main.h"
+#include "ui/rich_text_reader.h"
+
+#include <chrono>
+#include <cstdlib>
+#include <filesystem>
+#include <iomanip>
+#include <iostream>
+
+namespace {
+
+using namespace warhost;
+
+std::string with_plain_line_ends(std::string text)
+{
+    std::erase(text, '\r');
+    return text;
+}
+
+/// Answers every question as the command line says; an error ends the program.
+class Terminal final : public Desktop {
+public:
+    explicit Terminal(char const* program) : program_(program) {}
+
+    /// The answer to the next file dialog.
+    std::string path;
+
+    Answer message_box(MessageBox const& box) override
+    {
+        std::string const text = with_plain_line_ends(box.text);
+        if (box.buttons == Buttons::abort_retry_ignore) {
+            // What follows the empty line tells of buttons that are not here.
+            std::cerr << text.substr(0, text.find("\n\n") + 1);
+            end_program();
+        }
+        if (loading_) {
+            std::cerr << path << ": " << text << '\n';
+            end_program();
+        }
+        (box.icon == Icon::exclamation ? std::cerr : std::cout) << text << '\n';
+        return Answer::ok;
+    }
+    std::string input_box(InputBox const& box) override { return box.default_text; }
+    std::optional<std::string> file_dialog(FileDialog const& /*dialog*/) override
+    {
+        loading_ = true;
+        return path;
+    }
+    void loaded() { loading_ = false; }
+
+    bool minimized() override { return true; }
+    ClientArea client_area() override { return {}; }
+    double twips_per_pixel_x() override { return 15; }
+    double twips_per_pixel_y() override { return 15; }
+    void close_window() override {}
+    [[noreturn]] void end_program() override { std::exit(EXIT_FAILURE); }
+    NumberFormat number_format() override { return {}; }
+    std::string program_directory() override
+    {
+        std::error_code error;
+        auto program = std::filesystem::canonical("/proc/self/exe", error);
+        if (error) program = std::filesystem::absolute(program_);
+        return program.parent_path().string();
+    }
+    void show_help(int /*topic*/) override {}
+    bool open_address(std::string const& /*address*/) override { return false; }
+    void show_about() override {}
+
+private:
+    char const* program_;
+    bool loading_ = false;
+};
+
+std::string plain(std::string const& document)
+{
+    std::string text;
+    for (auto const& paragraph : read_rich_text(document)) {
+        if (!text.empty()) text += '\n';
+        for (auto const& run : paragraph) text += run.text;
+    }
+    return text;
+}
+
+void load(Main& form, Terminal& terminal, int side, char const* path)
+{
+    form.TabStrip.choose(side);
+    terminal.path = path;
+    form.cmdLoadArmy.press();
+    terminal.loaded();
+}
+
+void print_units(Main& form)
+{
+    for (int row = 0; row < unit_rows; ++row) {
+        if (form.txtUnitType(row).text().empty() && form.txtUnitNum(row).text() == "0") continue;
+        std::cout << std::setw(9) << form.txtUnitNum(row).text() << "  " << form.txtUnitType(row).text() << '\n';
+    }
+    std::cout << std::setw(9) << form.txtTotalNo.text() << "  soldiers in all\n";
+}
+
+void print_army(Main& form, int side)
+{
+    form.TabStrip.choose(side);
+    std::cout << (side == tab_side_a ? "Side A: " : "Side B: ") << form.txtArmyName.text() << '\n';
+    print_units(form);
+    for (auto const& [k, button] : form.opt) {
+        if (!button.selected()) continue;
+        int const category = option_of(k)->category;
+        std::cout << "  " << category_captions.at(static_cast<std::size_t>(category)) << ": " << button.caption()
+                  << ", " << form.cmbOpt(category).text() << '\n';
+    }
+    for (auto const& [row, box] : form.chkMisc) {
+        if (box.state() == 1) std::cout << "  " << box.caption() << ": " << form.cmbMisc(row).text() << '\n';
+    }
+    std::cout << "  Troop ratio " << form.lblRatio.caption() << " gives " << form.lblRatioBonus.caption() << '\n'
+              << "  Average level " << form.cmbLevel.text() << " vs " << form.lblOtherLevel.caption() << " gives "
+              << form.lblLevelBonus.caption() << '\n'
+              << "  Total modifier " << form.txtTotal.text() << "\n\n";
+}
+
+void print_battle(Main& form)
+{
+    std::cout << "Side A gets " << form.txtResult(0).text() << ", Side B gets " << form.txtResult(1).text()
+              << "\nWinner: " << form.lblWinner.caption() << " by " << form.lblWinBy.caption() << " points\n\n"
+              << "Loser's casualties: " << form.txtLoserCasualty.text() << " percent\n"
+              << plain(form.txtBattleResults.document()) << "\n\n"
+              << "Victor's casualty roll " << form.txtVictorCasRoll.text() << ", range " << form.lblCasRange.caption()
+              << ": " << form.txtVictorCasPercent.text() << "% of loser's " << form.lblLoserPercent.caption() << " is "
+              << form.txtVictorCas.text() << "%\n"
+              << plain(form.txtVictorDesc.document()) << "\n\n";
+}
+
+void print_losses(Main& form, int Index)
+{
+    std::cout << (Index == 0 ? "Side A" : "Side B") << std::setw(18) << "Had" << std::setw(10) << "Loses" << '\n';
+    for (int row = unit_rows * Index; row < unit_rows * (Index + 1); ++row) {
+        if (form.txtAName(row).text().empty() && form.txtANum(row).text() == "0") continue;
+        std::cout << std::setw(24) << form.txtANum(row).text() << std::setw(10) << form.txtLoses(row).text() << "  "
+                  << form.txtAName(row).text() << '\n';
+    }
+    std::cout << '\n';
+}
+
+void print_survivors(Main& form, int Index)
+{
+    std::cout << (Index == 0 ? "Side A" : "Side B") << ", survivors\n";
+    form.TabStrip.choose(Index + 1);
+    print_units(form);
+    std::cout << "  Total modifier " << form.txtTotal.text() << "\n\n";
+}
+
+} // namespace
+
+int main(int argument_count, char** arguments)
+{
+    if (argument_count < 3 || argument_count > 4) {
+        std::cerr << "Usage: fight ARMY_A ARMY_B [SEED]\n";
+        return EXIT_FAILURE;
+    }
+    auto const clock = std::chrono::system_clock::now().time_since_epoch().count();
+    Generator generator{argument_count == 4 ? std::strtoull(arguments[3], nullptr, 10)
+                                            : static_cast<std::uint64_t>(clock)};
+    Terminal terminal{arguments[0]};
+    Main form{terminal, generator};
+    form.Form_Load();
+    load(form, terminal, tab_side_a, arguments[1]);
+    load(form, terminal, tab_side_b, arguments[2]);
+    print_army(form, tab_side_a);
+    print_army(form, tab_side_b);
+
+    form.TabStrip.choose(tab_combat);
+    form.cmdRollAll.press();
+    print_battle(form);
+    if (form.chkPlus5.state() == 1 || form.chkMinus5.state() == 1) {
+        std::cout << "The victor rolls again.\n\n";
+        form.cmdRollCasualty.press();
+        form.cmdRollVictorCas.press();
+        print_battle(form);
+    }
+    for (int const Index : {0, 1}) print_losses(form, Index);
+    for (int const Index : {0, 1}) form.cmdApplyCasualties(Index).press();
+    for (int const Index : {0, 1}) print_survivors(form, Index);
+
+    form.TabStrip.choose(tab_combat);
+    form.cmdSimulate.press();
+    return EXIT_SUCCESS;
+}
