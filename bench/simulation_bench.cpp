@@ -1,0 +1,68 @@
+// The simulation against a loop that only makes as many draws and turns each into a die.
+
+#include "battle/dice.h"
+#include "battle/simulation.h"
+
+#include <benchmark/benchmark.h>
+
+#include <chrono>
+
+namespace {
+
+using namespace warhost;
+
+constexpr std::int32_t battles = 1'000'000;
+
+class CountingSource final : public RandomSource {
+public:
+    double next() override
+    {
+        ++draws;
+        return generator_.next();
+    }
+    std::int64_t draws = 0;
+
+private:
+    Generator generator_{1};
+};
+
+template <class Work> double nanoseconds(Work&& work)
+{
+    auto const start = std::chrono::steady_clock::now();
+    work();
+    return std::chrono::duration<double, std::nano>(std::chrono::steady_clock::now() - start).count();
+}
+
+/// Time is the simulation's alone; the best round of each side of the comparison counts.
+void simulate(benchmark::State& state)
+{
+    Simulation simulation{static_cast<int>(state.range(0)), static_cast<int>(state.range(1)), {}};
+    CountingSource counting;
+    simulation.fight(counting, battles);
+
+    Generator generator{2};
+    double best = 1e18;
+    double best_reference = 1e18;
+    for (auto _ : state) {
+        double const time = nanoseconds([&] { simulation.fight(generator, battles); });
+        double const reference = nanoseconds([&] {
+            Generator local = generator;
+            std::int64_t sum = 0;
+            for (std::int64_t draw = 0; draw < counting.draws; ++draw) sum += roll_d20(local);
+            benchmark::DoNotOptimize(sum);
+        });
+        best = std::min(best, time);
+        best_reference = std::min(best_reference, reference);
+        state.SetIterationTime(time * 1e-9);
+    }
+    state.counters["draws/battle"] = static_cast<double>(counting.draws) / battles;
+    state.counters["ns/battle"] = best / battles;
+    state.counters["reference_ns"] = best_reference / battles;
+    state.counters["ratio"] = best / best_reference;
+}
+
+BENCHMARK(simulate)->Args({0, 0})->Args({3, 1})->Args({10, 0})->Args({25, 0})->UseManualTime()->Iterations(30);
+
+} // namespace
+
+BENCHMARK_MAIN();
