@@ -1,0 +1,21 @@
+// What a failing step throws, as a value.
+#pragma once
+
+#include "army/failure.h"
+
+namespace warhost {
+
+/// The failure that `run` ends with; number 0 when it succeeds.
+template <class Run> Failure caught(Run&& run)
+{
+    try {
+        run();
+    } catch (Failure const& failure) {
+        return failure;
+    }
+    return {};
+}
+
+constexpr std::int32_t number_of(Fault fault) { return static_cast<std::int32_t>(fault); }
+
+} // namespace warhost
