@@ -122,7 +122,7 @@ TEST(ArmyFormat, believes_no_count_that_the_file_cannot_hold)
                              "\3\0\0\0\0\x80\0\0\0\0\0\0\0\x80\0\0\0\0\4\0\0\0\0\0\0\0"s}) { // 2^64 in all
         for (std::size_t const offset : {1792, 1802}) { // of a list of numbers, and of a list of texts
             auto bytes = zeros;
-            bytes.replace(offset, list.size(), list);
+            bytes.replace(offset, 2, list);
             EXPECT_EQ(decoding_failure(bytes).number, number_of(Fault::file_too_short)) << offset;
         }
     }

@@ -99,8 +99,9 @@ TEST(ArmyFiles, are_judged_by_the_screen_and_carried_where_it_shows_nothing)
     army.OtherLevel = 1.5F;
     Army expected = army;
     expected.Name = "Wood elves";
-    army.Opt[0] = 7; // of several in a frame the last counts
-    army.Opt[3] = expected.Opt[3] = -1;
+    army.Opt[0] = -1; // of several in a frame the last counts
+    army.Opt[3] = 2;  // anything but 0 is selected
+    expected.Opt[3] = -1;
     army.Opt[35] = army.Opt[50] = -1; // no such buttons
     army.OptValue[0] = expected.OptValue[0] = 4;
     army.OptValue[6] = expected.OptValue[6] = 3; // a category without buttons

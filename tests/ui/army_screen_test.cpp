@@ -133,6 +133,8 @@ TEST(ArmyScreen, keeps_the_combat_rows_of_the_side_shown_in_step)
     form.CurArmy.Name = "nobody's";
     form.CurArmy_Save();
     EXPECT_EQ(form.ArmyA, before);
+    form.cmbLevel.set_text("9"); // neither side is being edited: only the level is passed on, to Side A
+    EXPECT_EQ(std::pair(form.ArmyA.OtherLevel, form.ArmyB.OtherLevel), std::pair(9.0F, 1.0F));
     form.TabStrip.choose(1);
     EXPECT_TRUE(form.FrameArmy.visible() && !form.FrameCombat.visible());
     EXPECT_EQ(texts(form.txtArmyName, form.txtUnitType(1), form.txtUnitNum(1)), "Orcs/Riders/12");

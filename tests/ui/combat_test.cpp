@@ -139,6 +139,9 @@ TEST(Battle, recomputes_what_hangs_on_an_edited_field_and_nothing_else)
     combat.random.otherwise = 0;
     form.txtResult(1).set_text("32000");
     EXPECT_EQ(form.txtVictorDesc.document(), rich_text_document("Tie!"));
+    form.txtLoserCasualty.set_text("50"); // of a tie: Side A
+    form.txtVictorCas.set_text("20");
+    EXPECT_EQ(texts(form.txtLoses(0), form.txtLoses(8)), "50/16");
 }
 
 TEST(Apply, takes_the_losses_off_its_own_side_whichever_tab_is_selected)

@@ -1,0 +1,98 @@
+// pictures DATA FOLDER: the manual's and the README's pictures, taken of the real window.
+
+#include "battle/random.h"
+#include "ui/main.h"
+#include "ui/qt/qt_desktop.h"
+#include "ui/qt/report_box.h"
+#include "ui/qt/window.h"
+
+#include <QApplication>
+#include <QPalette>
+
+#include <iostream>
+
+namespace {
+
+using namespace warhost;
+
+/// Answers what the pictures need: armies from data/armies, a hundred thousand battles.
+class Photographer final : public QtDesktop {
+public:
+    explicit Photographer(QString folder) : folder_(std::move(folder)) {}
+
+    std::string army;
+
+    std::optional<std::string> file_dialog(FileDialog const& /*dialog*/) override { return army; }
+    std::string input_box(InputBox const& /*box*/) override { return "100000"; }
+    void show_report(MessageBox const& report, Tally const& tally) override
+    {
+        ReportBox box{report, tally, number_format(), nullptr};
+        take(box, "simulation_report");
+    }
+    NumberFormat number_format() override { return {}; }
+    Answer message_box(MessageBox const& box) override
+    {
+        std::cerr << box.text << '\n';
+        return box.default_answer;
+    }
+
+    void take(QWidget& widget, QString const& name)
+    {
+        widget.show();
+        QCoreApplication::processEvents();
+        QString const path = folder_ + "/" + name + ".png";
+        if (!widget.grab().save(path)) std::cerr << "Cannot write " << path.toStdString() << '\n';
+    }
+
+private:
+    QString folder_;
+};
+
+QPalette dark_palette()
+{
+    QPalette palette{QColor{0x35, 0x36, 0x3a}, QColor{0x2b, 0x2c, 0x30}};
+    palette.setColor(QPalette::Base, QColor{0x1e, 0x1f, 0x22});
+    for (auto const role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        palette.setColor(role, QColor{0xe6, 0xe6, 0xe6});
+    }
+    palette.setColor(QPalette::Highlight, QColor{0x4c, 0x8d, 0xd6});
+    return palette;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    if (argc != 3) {
+        std::cerr << "Usage: pictures DATA FOLDER\n";
+        return EXIT_FAILURE;
+    }
+    QApplication application{argc, argv};
+    QFont font{"DejaVu Sans"};
+    font.setPixelSize(11);
+    QApplication::setFont(font);
+
+    Photographer desktop{argv[2]};
+    Generator random{4};
+    Main form{desktop, random};
+    Window window{form, desktop};
+    auto const load = [&](int side, char const* name) {
+        form.TabStrip.choose(side);
+        desktop.army = std::string{argv[1]} + "/armies/" + name;
+        form.cmdLoadArmy.press();
+    };
+    load(tab_side_b, "split_tusk.Army");
+    load(tab_side_a, "korrins_anvil.Army");
+    if (form.chkMisc.contains(1)) form.chkMisc(1).set_state(1);
+    desktop.take(window, "army_screen");
+
+    form.TabStrip.choose(tab_combat);
+    form.cmdRollAll.press();
+    desktop.take(window, "combat_screen");
+    form.cmdSimulate.press();
+
+    QApplication::setPalette(dark_palette());
+    form.TabStrip.choose(tab_side_a);
+    desktop.take(window, "dark_theme");
+    return EXIT_SUCCESS;
+}

@@ -1,0 +1,151 @@
+#include "ui/qt/battle_charts.h"
+
+#include <QLocale>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace warhost {
+
+namespace {
+
+constexpr int percent_marks = 10; // along the lower axis
+constexpr int bar_width = 3;      // in a tenth of the font's height
+
+/// A step of 1, 2 or 5 times a power of ten that cuts `highest` into at most four parts.
+double round_step(double highest)
+{
+    double const power = std::pow(10.0, std::floor(std::log10(std::max(highest, 1e-6) / 4)));
+    for (double const factor : {1.0, 2.0, 5.0}) {
+        if (highest <= 4 * factor * power) return factor * power;
+    }
+    return 10 * power;
+}
+
+QString percent_label(double value) { return QLocale::system().toString(value, 'g', 3) + "%"; }
+
+void prefer_fixed_height(QWidget& widget) { widget.setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed); }
+
+} // namespace
+
+CasualtyHistogram::CasualtyHistogram(QString const& side, std::array<std::int64_t, highest_share + 1> const& battles,
+                                     double mean, QString const& mean_text, QWidget* parent)
+    : QWidget(parent),
+      title_(side + " casualties: share of the battles by percent lost"),
+      mean_text_(mean_text),
+      mean_(mean)
+{
+    double all = 0;
+    for (auto const count : battles) all += static_cast<double>(count);
+    for (std::size_t percent = 0; percent < battles.size(); ++percent) {
+        shares_.at(percent) = 100 * static_cast<double>(battles.at(percent)) / all;
+    }
+    auto const* const most = std::max_element(shares_.begin(), shares_.end());
+    highest_ = *most;
+    prefer_fixed_height(*this);
+    setAccessibleName(title_);
+    setAccessibleDescription(QString("Histogram. Mean %1%. The most frequent "
+                                     "loss is %2%, in %3% of the battles.")
+                                 .arg(mean_text)
+                                 .arg(most - shares_.begin())
+                                 .arg(QLocale::system().toString(highest_, 'f', 1)));
+}
+
+QSize CasualtyHistogram::sizeHint() const
+{
+    int const line = fontMetrics().height();
+    return {(highest_share + 1) * line * bar_width / 10 + line * 4, line * 10};
+}
+
+void CasualtyHistogram::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter{this};
+    QFontMetrics const metrics = fontMetrics();
+    int const line = metrics.height();
+    QRect const plot = rect().adjusted(metrics.horizontalAdvance("100% "), line * 5 / 2, -line, -line * 2);
+    painter.setPen(palette().color(QPalette::WindowText));
+    painter.drawText(QRect{0, 0, width(), line}, Qt::AlignLeft, title_);
+
+    double const step = round_step(highest_);
+    int const steps = static_cast<int>(std::ceil(highest_ / step));
+    double const top = step * steps;
+    auto const y_of = [&](double share) { return plot.bottom() + 1 - qRound(plot.height() * share / top); };
+    auto const x_of = [&](double percent) {
+        return plot.left() + qRound(plot.width() * (percent + 0.5) / (highest_share + 1));
+    };
+    for (int line_at = 0; line_at <= steps; ++line_at) {
+        double const share = line_at * step;
+        painter.setPen(palette().color(QPalette::Mid));
+        painter.drawLine(plot.left(), y_of(share), plot.right(), y_of(share));
+        painter.setPen(palette().color(QPalette::WindowText));
+        painter.drawText(QRect{0, y_of(share) - line / 2, plot.left() - line / 3, line},
+                         Qt::AlignRight | Qt::AlignVCenter, percent_label(share));
+    }
+    for (int percent = 0; percent <= highest_share; percent += percent_marks) {
+        painter.drawLine(x_of(percent), plot.bottom() + 1, x_of(percent), plot.bottom() + 1 + line / 4);
+        painter.drawText(QRect{x_of(percent) - line * 2, plot.bottom() + line / 3, line * 4, line}, Qt::AlignHCenter,
+                         QString::number(percent));
+    }
+
+    QColor const bars = palette().color(QPalette::Highlight);
+    for (int percent = 0; percent <= highest_share; ++percent) {
+        double const share = shares_.at(static_cast<std::size_t>(percent));
+        if (share <= 0) continue;
+        int const left = x_of(percent - 0.5);
+        int const height = std::max(plot.bottom() + 1 - y_of(share), 1); // the rarest loss shows
+        painter.fillRect(left, plot.bottom() + 1 - height, std::max(x_of(percent + 0.5) - left - 1, 1), height, bars);
+    }
+
+    painter.setPen(QPen{palette().color(QPalette::WindowText), 1, Qt::DashLine});
+    int const mean_x = x_of(mean_);
+    painter.drawLine(mean_x, plot.top() - line / 4, mean_x, plot.bottom());
+    QString const mean_label = "mean " + mean_text_ + "%";
+    int const label_width = metrics.horizontalAdvance(mean_label);
+    painter.drawText(std::min(mean_x + line / 3, width() - label_width), plot.top() - metrics.descent() - line / 8,
+                     mean_label);
+}
+
+OutcomeBar::OutcomeBar(std::array<OutcomePart, 3> parts, QWidget* parent) : QWidget(parent), parts_(std::move(parts))
+{
+    prefer_fixed_height(*this);
+    setAccessibleName("Wins and ties");
+    setAccessibleDescription(parts_[0].label + ", " + parts_[1].label + ", " + parts_[2].label + ".");
+}
+
+QSize OutcomeBar::sizeHint() const
+{
+    int const line = fontMetrics().height();
+    int width = line * 6;
+    for (auto const& part : parts_) width += fontMetrics().horizontalAdvance(part.label) + line * 2;
+    return {width, line * 3};
+}
+
+void OutcomeBar::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter{this};
+    int const line = fontMetrics().height();
+    QColor const text = palette().color(QPalette::WindowText);
+    auto const fill = [&](QRect const& box, Qt::BrushStyle pattern) {
+        painter.fillRect(box, palette().color(QPalette::Base));
+        painter.fillRect(box, QBrush{palette().color(QPalette::Highlight), pattern});
+        painter.setPen(text);
+        painter.drawRect(box.adjusted(0, 0, -1, -1));
+    };
+    double passed = 0;
+    int legend = 0;
+    for (auto const& part : parts_) {
+        int const left = qRound(passed * width() / 100);
+        passed += part.share;
+        int const right = qRound(std::min(passed, 100.0) * width() / 100);
+        if (right > left) fill({left, 0, right - left, line * 5 / 4}, part.pattern);
+
+        int const legend_top = line * 7 / 4;
+        fill({legend, legend_top, line, line}, part.pattern);
+        painter.drawText(QRect{legend + line * 4 / 3, legend_top, width(), line}, Qt::AlignLeft | Qt::AlignVCenter,
+                         part.label);
+        legend += line * 3 + fontMetrics().horizontalAdvance(part.label);
+    }
+}
+
+} // namespace warhost

@@ -1,0 +1,99 @@
+#include "ui/qt/binding.h"
+
+#include "ui/qt/option_choice.h"
+#include "ui/qt/rich_text_view.h"
+#include "ui/qt/text.h"
+#include "ui/qt/value_box.h"
+
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTextEdit>
+
+#include <limits>
+
+namespace warhost {
+
+namespace {
+
+/// An equal text is left alone: so the cursor keeps its place while the user types.
+void show_text(QLineEdit& box, std::string const& text)
+{
+    if (QString const wanted = to_qt(text); box.text() != wanted) box.setText(wanted);
+}
+
+} // namespace
+
+void name_after(Control const& field, QWidget& widget)
+{
+    widget.setObjectName(to_qt(field.name()));
+    if (!field.tooltip.empty()) widget.setToolTip(to_tooltip(to_qt(field.tooltip)));
+}
+
+void bind(TextLabel& field, QLabel& label)
+{
+    name_after(field, label);
+    label.setTextFormat(Qt::PlainText);
+    field.show = [&] { label.setText(to_qt(field.caption())); };
+    field.show();
+}
+
+void bind(TextBox& field, QLineEdit& box)
+{
+    name_after(field, box);
+    box.setMaxLength(std::numeric_limits<int>::max());
+    box.setReadOnly(field.read_only);
+    QObject::connect(&box, &QLineEdit::textEdited, &box, [&](QString const& typed) { field.set_text(typed.toStdString()); });
+    field.show = [&] { show_text(box, field.text()); };
+    field.show();
+}
+
+void bind(ComboBox& field, ValueBox& box)
+{
+    name_after(field, box);
+    field.show = [&] { show_text(*box.lineEdit(), field.text()); };
+    field.show();
+}
+
+void bind(CheckBox& field, QCheckBox& box)
+{
+    name_after(field, box);
+    box.setText(to_caption(field.caption()));
+    QObject::connect(&box, &QCheckBox::clicked, &box, [&](bool checked) { field.set_state(checked ? 1 : 0); });
+    field.show = [&] { box.setChecked(field.state() == 1); };
+    field.show();
+}
+
+void bind(OptionButton& field, OptionChoice& choice)
+{
+    name_after(field, choice);
+    choice.setText(to_caption(field.caption()));
+    QObject::connect(&choice, &QRadioButton::clicked, &choice, [&] { field.set_selected(true); });
+    field.show = [&] { choice.show_selected(field.selected()); };
+    field.show();
+}
+
+void bind(Button& field, QPushButton& button)
+{
+    name_after(field, button);
+    button.setText(to_caption(field.caption()));
+    QObject::connect(&button, &QPushButton::clicked, &button, [&] { field.press(); });
+}
+
+void bind(Frame& field, QGroupBox& frame)
+{
+    name_after(field, frame);
+    frame.setTitle(to_caption(field.caption()));
+}
+
+void bind(RichTextBox& field, QTextEdit& box)
+{
+    name_after(field, box);
+    box.setReadOnly(true);
+    field.show = [&] { show_rich_text(box, field.document()); };
+    field.show();
+}
+
+} // namespace warhost

@@ -1,0 +1,34 @@
+// Ties a field to its widget: the field's text and state are shown, and what the user types, chooses or ticks is set.
+#pragma once
+
+#include "ui/fields.h"
+
+class QCheckBox;
+class QGroupBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QTextEdit;
+class QWidget;
+
+namespace warhost {
+
+class OptionChoice;
+class ValueBox;
+
+/// Each call names the widget after its field, gives it the field's tool tip and shows the field; only the user's own
+/// doing goes back, so that showing needs no signal to be silenced. The field must outlive the widget's use, and must
+/// not be set any more once the widget is gone.
+void bind(TextLabel& field, QLabel& label);
+void bind(TextBox& field, QLineEdit& box);
+void bind(ComboBox& field, ValueBox& box);
+void bind(CheckBox& field, QCheckBox& box);
+void bind(OptionButton& field, OptionChoice& choice);
+void bind(Button& field, QPushButton& button);
+void bind(Frame& field, QGroupBox& frame);
+void bind(RichTextBox& field, QTextEdit& box);
+
+/// The part of it that every kind shares.
+void name_after(Control const& field, QWidget& widget);
+
+} // namespace warhost

@@ -1,0 +1,40 @@
+// One page of the manual, or a plain page that says why there is none.
+#pragma once
+
+#include <QImage>
+#include <QTextBrowser>
+
+namespace warhost {
+
+struct HelpEntry;
+
+class HelpPage : public QTextBrowser {
+    Q_OBJECT
+
+public:
+    explicit HelpPage(QString const& folder, QWidget* parent = nullptr);
+
+    void show_entry(HelpEntry const& entry);
+    void show_missing_manual();
+    void show_unknown_topic(int topic);
+
+    /// A step is a tenth of the size; the text stays between a half and three times the window's own.
+    void zoom(int steps);
+    void zoom_to_normal();
+
+protected:
+    QVariant loadResource(int type, QUrl const& name) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    QString notice(QUrl const& name) const;
+    QImage picture(QByteArray const& bytes) const;
+    void follow_palette();
+    void apply_zoom();
+
+    QString folder_;
+    int percent_ = 100;
+};
+
+} // namespace warhost

@@ -1,0 +1,49 @@
+#include "ui/main.h"
+
+#include "battle/random.h"
+#include "ui/qt/about_box.h"
+#include "ui/qt/help_viewer.h"
+#include "ui/qt/qt_desktop.h"
+#include "ui/qt/window.h"
+
+#include <QApplication>
+#include <QIcon>
+
+#include <chrono>
+#include <memory>
+
+namespace {
+
+QIcon window_icon()
+{
+    QIcon icon;
+    for (int const size : {16, 32, 48, 256}) icon.addFile(QString{":/icons/warhost-%1.png"}.arg(size));
+    return icon;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    QApplication application{argc, argv};
+    QCoreApplication::setApplicationName("warhost");
+    QGuiApplication::setDesktopFileName("warhost");
+    application.setWindowIcon(window_icon());
+    // No display name: it would be appended to the title of every dialog.
+
+    using namespace std::chrono;
+    warhost::Generator random{static_cast<std::uint64_t>(system_clock::now().time_since_epoch() / nanoseconds{1})};
+    warhost::QtDesktop desktop;
+    QString const data_folder = QCoreApplication::applicationDirPath();
+    std::unique_ptr<warhost::HelpViewer> manual;
+    desktop.help = [&](int topic) {
+        if (!manual) manual = std::make_unique<warhost::HelpViewer>(data_folder + "/help");
+        manual->open(topic);
+    };
+    desktop.about = [&] { warhost::AboutBox::show_box(data_folder); };
+
+    warhost::Main form{desktop, random};
+    warhost::Window window{form, desktop};
+    window.show();
+    return QApplication::exec();
+}

@@ -1,0 +1,27 @@
+// An option button whose group is kept by the form: none of a group may be selected.
+#pragma once
+
+#include <QRadioButton>
+
+#include <vector>
+
+namespace warhost {
+
+/// The arrow keys select the neighbours in the same parent, in a circle. While one of a group is selected it is the
+/// group's only stop for the Tab key.
+class OptionChoice : public QRadioButton {
+public:
+    explicit OptionChoice(QWidget* parent);
+
+    /// Shows the state without any signal.
+    void show_selected(bool selected);
+
+protected:
+    void nextCheckState() override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    std::vector<OptionChoice*> group() const;
+};
+
+} // namespace warhost

@@ -1,0 +1,170 @@
+#include "ui/qt/qt_desktop.h"
+
+#include "ui/qt/report_box.h"
+#include "ui/qt/text.h"
+
+#include <QCoreApplication>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QInputDialog>
+#include <QLocale>
+#include <QMessageBox>
+#include <QStandardPaths>
+#include <QStringList>
+#include <QUrl>
+
+#include <array>
+#include <cstdlib>
+
+namespace warhost {
+
+namespace {
+
+struct AnswerButton {
+    Answer answer;
+    QMessageBox::StandardButton button;
+};
+
+constexpr std::array answer_buttons{
+    AnswerButton{Answer::ok, QMessageBox::Ok},       AnswerButton{Answer::yes, QMessageBox::Yes},
+    AnswerButton{Answer::no, QMessageBox::No},       AnswerButton{Answer::abort, QMessageBox::Abort},
+    AnswerButton{Answer::retry, QMessageBox::Retry}, AnswerButton{Answer::ignore, QMessageBox::Ignore},
+};
+
+QMessageBox::StandardButtons buttons_of(Buttons buttons)
+{
+    switch (buttons) {
+    case Buttons::yes_no: return QMessageBox::Yes | QMessageBox::No;
+    case Buttons::abort_retry_ignore: return QMessageBox::Abort | QMessageBox::Retry | QMessageBox::Ignore;
+    case Buttons::ok: break;
+    }
+    return QMessageBox::Ok;
+}
+
+QMessageBox::Icon icon_of(Icon icon)
+{
+    switch (icon) {
+    case Icon::exclamation: return QMessageBox::Warning;
+    case Icon::critical: return QMessageBox::Critical;
+    case Icon::none: break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+/// "Armies (*.Army)|*.Army|All Files|*.*" as the filters "Armies (*.Army)" and "All Files (*)".
+QStringList filters_of(std::string const& pairs)
+{
+    QStringList const parts = to_qt(pairs).split('|');
+    QStringList filters;
+    for (qsizetype k = 0; k + 1 < parts.size(); k += 2) {
+        QString const description = parts[k].section('(', 0, 0).trimmed();
+        QString pattern = parts[k + 1];
+        pattern.replace("*.*", "*").replace(';', ' ');
+        filters << description + " (" + pattern + ")";
+    }
+    return filters;
+}
+
+} // namespace
+
+Answer QtDesktop::message_box(MessageBox const& box)
+{
+    QMessageBox message{window_};
+    message.setTextFormat(Qt::PlainText);
+    message.setText(to_qt(box.text).replace("\r\n", "\n"));
+    message.setWindowTitle(to_qt(box.title));
+    message.setIcon(icon_of(box.icon));
+    message.setStandardButtons(buttons_of(box.buttons));
+    for (auto const& [answer, button] : answer_buttons) {
+        if (answer == box.default_answer) message.setDefaultButton(button);
+    }
+    // Escape and the close button do no harm: they never mean Yes, and never Abort.
+    if (box.buttons == Buttons::abort_retry_ignore) message.setEscapeButton(QMessageBox::Ignore);
+    message.exec();
+    auto const pressed = message.standardButton(message.clickedButton());
+    for (auto const& [answer, button] : answer_buttons) {
+        if (button == pressed) return answer;
+    }
+    return box.buttons == Buttons::yes_no ? Answer::no : box.buttons == Buttons::ok ? Answer::ok : Answer::ignore;
+}
+
+void QtDesktop::show_report(MessageBox const& report, Tally const& tally)
+{
+    progress_.reset();
+    ReportBox{report, tally, number_format(), window_}.exec();
+}
+
+void QtDesktop::show_progress(std::int32_t fought, std::int32_t battles)
+{
+    if (!progress_) progress_.emplace();
+    progress_->show(window_, fought, battles);
+}
+
+std::string QtDesktop::input_box(InputBox const& box)
+{
+    QInputDialog input{window_};
+    input.setWindowTitle(to_qt(box.title));
+    input.setLabelText(to_qt(box.prompt));
+    input.setTextValue(to_qt(box.default_text));
+    return input.exec() == QDialog::Accepted ? input.textValue().toStdString() : std::string{};
+}
+
+QString QtDesktop::first_folder()
+{
+    QString const samples = to_qt(program_directory()) + "/armies";
+    return QFileInfo{samples}.isDir() ? samples : QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+}
+
+std::optional<std::string> QtDesktop::file_dialog(FileDialog const& dialog)
+{
+    QFileDialog chooser{window_, to_qt(dialog.title), last_folder_.isEmpty() ? first_folder() : last_folder_};
+    bool const saves = dialog.kind == FileDialogKind::save;
+    chooser.setAcceptMode(saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    chooser.setFileMode(dialog.file_must_exist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    chooser.setOption(QFileDialog::DontConfirmOverwrite, !dialog.overwrite_prompt);
+    chooser.setNameFilters(filters_of(dialog.filter));
+    chooser.setDefaultSuffix(to_qt(dialog.default_extension));
+    if (!dialog.file_name.empty()) chooser.selectFile(to_qt(dialog.file_name));
+    if (chooser.exec() != QDialog::Accepted || chooser.selectedFiles().isEmpty()) return std::nullopt;
+    QString const path = chooser.selectedFiles().first();
+    last_folder_ = QFileInfo{path}.absolutePath();
+    return path.toStdString();
+}
+
+bool QtDesktop::minimized() { return window_ != nullptr && window_->isMinimized(); }
+
+ClientArea QtDesktop::client_area()
+{
+    return {client_.width() * scale_.twips_per_pixel(), client_.height() * scale_.twips_per_pixel()};
+}
+
+void QtDesktop::close_window()
+{
+    if (window_ != nullptr) window_->close();
+}
+
+void QtDesktop::end_program() { std::_Exit(EXIT_SUCCESS); }
+
+NumberFormat QtDesktop::number_format()
+{
+    QLocale const locale = QLocale::system();
+    return {locale.decimalPoint().toStdString(), locale.groupSeparator().toStdString()};
+}
+
+std::string QtDesktop::program_directory() { return QCoreApplication::applicationDirPath().toStdString(); }
+
+void QtDesktop::show_help(int topic)
+{
+    if (help) help(topic);
+}
+
+bool QtDesktop::open_address(std::string const& address) { return QDesktopServices::openUrl(QUrl{to_qt(address)}); }
+
+void QtDesktop::show_about()
+{
+    if (about) about();
+}
+
+} // namespace warhost

@@ -1,0 +1,58 @@
+#include "ui/qt/report_box.h"
+
+#include "ui/qt/battle_charts.h"
+#include "ui/simulation_report.h"
+
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace warhost {
+
+namespace {
+
+QLabel* selectable_text(std::string const& text, char const* name)
+{
+    auto* const label = new QLabel{QString::fromStdString(text).remove('\r')};
+    label->setTextFormat(Qt::PlainText);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    label->setAccessibleName(name);
+    return label;
+}
+
+} // namespace
+
+ReportBox::ReportBox(MessageBox const& report, Tally const& tally, NumberFormat const& format, QWidget* parent)
+    : QDialog(parent)
+{
+    setWindowTitle(QString::fromStdString(report.title));
+    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+
+    auto const battles = static_cast<double>(tally.battles());
+    auto const percent = [&](double value) { return QString::fromStdString(one_decimal(value, format)); };
+    auto const part = [&](int winner, QString const& what, Qt::BrushStyle pattern) {
+        double const share = 100 * static_cast<double>(tally.won_by(winner)) / battles;
+        return OutcomePart{what + " " + percent(share) + "%", share, pattern};
+    };
+    auto const histogram = [&](int Index, QString const& side) {
+        double const mean = tally.casualties(Index) / battles;
+        return new CasualtyHistogram{side, tally.histogram(Index), mean, percent(mean)};
+    };
+
+    auto* const column = new QVBoxLayout{this};
+    column->addWidget(selectable_text(report.text, "Report"));
+    column->addWidget(new OutcomeBar{{part(side_a_won, "Side A wins", Qt::SolidPattern), part(tie, "Tied", Qt::NoBrush),
+                                      part(side_b_won, "Side B wins", Qt::BDiagPattern)}});
+    column->addWidget(histogram(0, "Side A"));
+    column->addWidget(histogram(1, "Side B"));
+    column->addWidget(selectable_text(simulation_margin(tally, format), "How far the numbers may be off"));
+    auto* const buttons = new QDialogButtonBox{QDialogButtonBox::Ok};
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    column->addWidget(buttons);
+    column->setSizeConstraint(QLayout::SetFixedSize);
+    buttons->button(QDialogButtonBox::Ok)->setDefault(true);
+    buttons->button(QDialogButtonBox::Ok)->setFocus();
+}
+
+} // namespace warhost

@@ -1,0 +1,18 @@
+// The simulation's report: the text, how far it may be off, and its pictures.
+#pragma once
+
+#include "battle/simulation.h"
+#include "ui/desktop.h"
+
+#include <QDialog>
+
+namespace warhost {
+
+/// A message box in function: the report's text and one button. Enter and Escape close it; its texts can be selected
+/// and copied.
+class ReportBox : public QDialog {
+public:
+    ReportBox(MessageBox const& report, Tally const& tally, NumberFormat const& format, QWidget* parent);
+};
+
+} // namespace warhost

@@ -1,0 +1,36 @@
+// How large the window is drawn: twips, pixels and the font, which all grow together.
+#pragma once
+
+#include <QFont>
+#include <QSize>
+
+#include <cmath>
+
+namespace warhost {
+
+/// Lengths in pixels, from twips or from pixels of the base size.
+class Scale {
+public:
+    static constexpr double base_twips_per_pixel = 15;
+    static constexpr double base_font_pixels = 11;
+
+    Scale() = default;
+    explicit Scale(double font_pixels) : twips_per_pixel_(base_twips_per_pixel * base_font_pixels / font_pixels) {}
+
+    double twips_per_pixel() const { return twips_per_pixel_; }
+    int from_twips(double twips) const { return static_cast<int>(std::lround(twips / twips_per_pixel_)); }
+    int from_base(double pixels) const { return from_twips(pixels * base_twips_per_pixel); }
+    QSize from_twips(double width, double height) const { return {from_twips(width), from_twips(height)}; }
+
+private:
+    double twips_per_pixel_ = base_twips_per_pixel;
+};
+
+/// The font's size in pixels on the main screen; a fraction where the size is given in points.
+double pixel_height(QFont const& font);
+
+/// The user's font at the size to use: not below the base, and otherwise not larger than what lets a window of the
+/// given size in twips fit into the room.
+QFont fitting_font(QFont font, double width, double height, QSize room);
+
+} // namespace warhost

@@ -1,0 +1,29 @@
+// An editable box with a list of proposals that is read from its field when it is needed, not kept.
+#pragma once
+
+#include "ui/fields.h"
+
+#include <QComboBox>
+
+namespace warhost {
+
+class ValueBox : public QComboBox {
+public:
+    /// The field must outlive the box's use.
+    explicit ValueBox(ComboBox& field);
+
+    void showPopup() override;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+private:
+    /// The place of the shown text in the field's list; -1 when it is not in it.
+    int listed_place() const;
+    void step(int places);
+
+    ComboBox& field_;
+};
+
+} // namespace warhost

@@ -1,0 +1,58 @@
+// The main window: menus, the tab strip with its page, and the two screens.
+#pragma once
+
+#include "ui/main.h"
+#include "ui/qt/scale.h"
+
+#include <QMainWindow>
+
+class QTabBar;
+
+namespace warhost {
+
+class ArmyPage;
+class CombatPage;
+class QtDesktop;
+class ScreenArea;
+class TabPage;
+
+/// Loads the form and shows it. The font and the scale are the user's, within what the screen can hold; on a screen
+/// that cannot hold the base size the two screens scroll. The form must not be used once the window is gone.
+class Window : public QMainWindow {
+public:
+    Window(Main& form, QtDesktop& desktop);
+    ~Window() override;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void make_menus();
+    void make_tab_strip();
+    void make_screens();
+    void fit_to_screen();
+    void follow_size();
+    void place_tab_strip();
+    void place_screen(Frame const& frame, ScreenArea& screen);
+    void place_misc_panel();
+    void choose_tab(int position);
+    void focus_army_name();
+    void colour_read_only_boxes();
+
+    Main& form_;
+    QtDesktop& desktop_;
+    Scale scale_;
+    bool scrolls_ = false;     // the screen cannot hold the base size
+    bool asks_to_quit_ = false;
+    QSize extra_{0, 0};        // what the scroll bars take from the client area
+    QWidget* client_;
+    TabPage* tab_page_ = nullptr;
+    QTabBar* tabs_ = nullptr;
+    ArmyPage* army_ = nullptr;
+    CombatPage* combat_ = nullptr;
+};
+
+} // namespace warhost

@@ -1,0 +1,126 @@
+// The manual as it ships, its viewer, and the About box. Needs a QApplication.
+#include "ui/qt/about_box.h"
+#include "ui/qt/help_viewer.h"
+
+#include "files/modifier_list.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QTest>
+#include <QTextBrowser>
+#include <QTreeWidget>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace warhost {
+
+namespace {
+
+QString const data_folder = WARHOST_DATA;
+QString const manual = data_folder + "/help";
+
+QByteArray bytes_of(QString const& path)
+{
+    QFile file{path};
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray{};
+}
+
+QString shown_by(HelpViewer& viewer) { return viewer.findChild<QTextBrowser*>("helpPage")->toPlainText(); }
+
+QList<QWidget*> about_boxes()
+{
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QList<QWidget*> boxes;
+    for (auto* widget : QApplication::topLevelWidgets()) {
+        if (widget->objectName() == "frmAbout") boxes.push_back(widget);
+    }
+    return boxes;
+}
+
+} // namespace
+
+TEST(Manual, every_entry_has_its_page_and_anchor_and_every_row_of_the_panel_its_topic)
+{
+    auto const entries = read_help_contents(manual);
+    ASSERT_FALSE(entries.empty());
+    for (auto const& entry : entries) {
+        SCOPED_TRACE(entry.title.toStdString());
+        auto const page = bytes_of(manual + "/" + entry.page);
+        EXPECT_FALSE(page.isEmpty());
+        EXPECT_TRUE(entry.anchor.isEmpty() || page.contains("name=\"" + entry.anchor.toUtf8() + "\""));
+    }
+    auto const rows = parse_modifier_list(bytes_of(data_folder + "/modif.txt").toStdString());
+    ASSERT_FALSE(rows.empty());
+    for (auto const& row : rows) {
+        auto const topics = std::count_if(entries.begin(), entries.end(),
+                                          [&](auto const& entry) { return entry.topic == row.help_topic; });
+        EXPECT_EQ(topics, 1) << row.name;
+    }
+}
+
+TEST(HelpViewer, opens_topics_follows_links_and_tells_what_is_missing)
+{
+    HelpViewer viewer{manual};
+    auto& page = *viewer.findChild<QTextBrowser*>("helpPage");
+    auto const entry = [&] { return viewer.findChild<QTreeWidget*>("helpTree")->currentItem()->text(0).toStdString(); };
+    viewer.open(0);
+    EXPECT_EQ(page.source().fileName(), "contents.html");
+    viewer.open(104);
+    EXPECT_EQ(page.source().fragment(), "pass");
+    EXPECT_EQ(entry(), "Holds a pass or bridge");
+    page.backward();
+    EXPECT_EQ(entry(), "Welcome to Warhost");
+
+    viewer.open(999);
+    EXPECT_TRUE(shown_by(viewer).contains("There is no help topic 999")) << shown_by(viewer).toStdString();
+    page.setSource(QUrl::fromLocalFile(manual + "/lost.html"));
+    EXPECT_TRUE(shown_by(viewer).contains("lost.html")) << shown_by(viewer).toStdString();
+
+    HelpViewer nowhere{"/no/such/folder"};
+    nowhere.open(104);
+    EXPECT_TRUE(shown_by(nowhere).contains("The manual was not found: /no/such/folder"))
+        << shown_by(nowhere).toStdString();
+}
+
+TEST(HelpViewer, finds_a_text_goes_on_at_the_top_and_closes_the_bar_with_escape)
+{
+    HelpViewer viewer{manual};
+    viewer.open(11);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&viewer));
+    auto& page = *viewer.findChild<QTextBrowser*>("helpPage");
+    auto& text = *viewer.findChild<QLineEdit*>("findText");
+    QTest::keyClick(&viewer, Qt::Key_F, Qt::ControlModifier);
+    ASSERT_TRUE(text.isVisible());
+    QTest::keyClicks(&text, "CTRL+L");
+    int const place = page.textCursor().selectionStart();
+    EXPECT_EQ(page.textCursor().selectedText(), "Ctrl+L");
+    QTest::keyClick(&text, Qt::Key_Return); // the only one of the page
+    EXPECT_EQ(page.textCursor().selectionStart(), place);
+    EXPECT_FALSE(viewer.findChild<QLabel*>("findMessage")->text().isEmpty());
+    QTest::keyClick(&text, Qt::Key_Escape);
+    EXPECT_FALSE(text.isVisible());
+}
+
+TEST(AboutBox, is_one_tells_version_and_licence_and_closes_by_enter_and_escape)
+{
+    for (auto const key : {Qt::Key_Return, Qt::Key_Escape}) {
+        AboutBox::show_box(data_folder);
+        AboutBox::show_box(data_folder);
+        ASSERT_EQ(about_boxes().size(), 1);
+        auto& box = *about_boxes().front();
+        EXPECT_EQ(box.windowTitle(), "About Warhost");
+        EXPECT_EQ(box.findChild<QLabel*>("lblVersion")->text(), "Version 1.5.21");
+        EXPECT_FALSE(box.findChild<QLabel*>("picIcon")->pixmap().isNull());
+        auto* const licence = box.findChild<QPlainTextEdit*>("TextOGL");
+        EXPECT_TRUE(licence->toPlainText().contains("15. COPYRIGHT NOTICE"));
+        QTest::keyClick(licence, key);
+        EXPECT_TRUE(about_boxes().isEmpty());
+    }
+}
+
+} // namespace warhost

@@ -1,0 +1,85 @@
+// A started program with its window, whose dialogs answer as planted.
+#pragma once
+
+#include "battle/random.h"
+#include "ui/main.h"
+#include "ui/qt/qt_desktop.h"
+#include "ui/qt/window.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QFont>
+#include <QTabBar>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <deque>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace warhost {
+
+class PlantedDesktop final : public QtDesktop {
+public:
+    std::deque<Answer> answers; // the default answer when there is none
+    std::optional<std::string> path;
+    std::vector<std::string> titles; // of the messages shown
+    int topic = 0;
+
+    Answer message_box(MessageBox const& box) override
+    {
+        titles.push_back(box.title);
+        if (answers.empty()) return box.default_answer;
+        Answer const answer = answers.front();
+        answers.pop_front();
+        return answer;
+    }
+    std::string input_box(InputBox const& box) override { return box.default_text; }
+    std::optional<std::string> file_dialog(FileDialog const&) override { return path; }
+    std::string program_directory() override { return WARHOST_DATA; }
+    void show_help(int number) override { topic = number; }
+};
+
+/// font_share: of the base font's size.
+struct Screen {
+    PlantedDesktop desktop;
+    Generator random{7};
+    Main form{desktop, random};
+    Window window;
+
+    explicit Screen(double font_share = 1) : window(form_with_font(font_share), desktop)
+    {
+        window.show();
+        window.activateWindow();
+        QCoreApplication::processEvents();
+    }
+
+    template <class Widget> Widget& named(char const* name)
+    {
+        auto* const widget = window.findChild<Widget*>(name);
+        if (widget == nullptr) throw std::runtime_error{std::string{"no widget "} + name};
+        return *widget;
+    }
+
+    void choose_tab(int position)
+    {
+        auto& tabs = named<QTabBar>("TabStrip");
+        QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(position - 1).center());
+        QCoreApplication::processEvents();
+    }
+
+    void trigger(char const* action) { named<QAction>(action).trigger(); }
+
+private:
+    Main& form_with_font(double share)
+    {
+        QFont font{"DejaVu Sans"};
+        font.setPointSizeF(8.25 * share);
+        QApplication::setFont(font);
+        return form;
+    }
+};
+
+} // namespace warhost

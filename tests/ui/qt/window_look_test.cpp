@@ -1,0 +1,277 @@
+// Nothing is clipped, everything is readable, reachable and named.
+#include "window_fixture.h"
+
+#include "ui/qt/contrast.h"
+
+#include <QAbstractButton>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPixmap>
+#include <QRadioButton>
+#include <QStyle>
+#include <QStyleOptionButton>
+#include <QTextEdit>
+
+#include <algorithm>
+#include <map>
+#include <set>
+
+namespace warhost {
+
+namespace {
+
+constexpr std::array tabs{1, 2, 3};
+
+/// A battle with long numbers and texts everywhere.
+void fill(Screen& screen)
+{
+    screen.form.txtUnitType(0).set_text("Spears");
+    screen.form.txtUnitNum(0).set_text("99999");
+    for (int const option : {3, 6, 12, 19, 40, 29, 41}) screen.form.opt(option).set_selected(true);
+    for (int row = 1; row <= screen.form.chkMisc.highest(); ++row) screen.form.chkMisc(row).set_state(1);
+    screen.form.cmdRollAll_Click();
+    screen.form.txtVictorCas.set_text("100.0");
+    QCoreApplication::processEvents();
+}
+
+std::vector<QWidget*> shown_widgets(Screen& screen)
+{
+    std::vector<QWidget*> shown;
+    for (QWidget* const widget : screen.window.findChildren<QWidget*>()) {
+        bool const counts = qobject_cast<QLabel*>(widget) != nullptr || qobject_cast<QAbstractButton*>(widget) != nullptr ||
+                            qobject_cast<QGroupBox*>(widget) != nullptr || qobject_cast<QLineEdit*>(widget) != nullptr ||
+                            qobject_cast<QTextEdit*>(widget) != nullptr;
+        if (counts && widget->isVisible() && widget->width() > 0) shown.push_back(widget);
+    }
+    return shown;
+}
+
+QString name_of(QWidget const& widget) { return widget.objectName().isEmpty() ? widget.parentWidget()->objectName() : widget.objectName(); }
+
+/// The room that a widget has for its text, and the text.
+struct Content {
+    QRect room;
+    QString text;
+};
+
+Content content_of(QWidget& widget)
+{
+    if (auto* const label = qobject_cast<QLabel*>(&widget)) return {label->contentsRect(), label->text()};
+    if (auto* const box = qobject_cast<QLineEdit*>(&widget)) {
+        constexpr int side_margin = 2; // kept free by every line edit
+        return {box->rect().adjusted(side_margin, 0, -side_margin, 0), box->text()};
+    }
+    if (auto* const button = qobject_cast<QAbstractButton*>(&widget)) {
+        QStyleOptionButton option;
+        option.initFrom(button);
+        auto const part = qobject_cast<QCheckBox*>(button) != nullptr      ? QStyle::SE_CheckBoxContents
+                          : qobject_cast<QRadioButton*>(button) != nullptr ? QStyle::SE_RadioButtonContents
+                                                                           : QStyle::SE_PushButtonContents;
+        return {button->style()->subElementRect(part, &option, button), button->text().replace("&&", "&")};
+    }
+    if (auto* const frame = qobject_cast<QGroupBox*>(&widget)) {
+        QRect room = frame->rect();
+        for (auto* const result : frame->findChildren<QComboBox*>()) {
+            if (result->y() == 0) room.setRight(result->x() - 1);
+        }
+        return {room, frame->title()};
+    }
+    return {};
+}
+
+bool inside_its_parents(QWidget const& widget)
+{
+    QRect place = widget.geometry();
+    for (QWidget const* parent = widget.parentWidget(); parent != nullptr; parent = parent->parentWidget()) {
+        if (!parent->rect().contains(place)) return false;
+        place.translate(parent->pos());
+    }
+    return true;
+}
+
+TEST(WindowLook, no_text_is_clipped_and_nothing_overlaps)
+{
+    for (double const share : {1.0, 1.25, 1.5}) {
+        Screen screen{share};
+        fill(screen);
+        for (int const tab : tabs) {
+            screen.choose_tab(tab);
+            auto const widgets = shown_widgets(screen);
+            EXPECT_GT(widgets.size(), 60U);
+            for (QWidget* const widget : widgets) {
+                SCOPED_TRACE(QString{"%1 at %2, tab %3"}.arg(name_of(*widget)).arg(share).arg(tab).toStdString());
+                auto const [room, text] = content_of(*widget);
+                auto const* const label = qobject_cast<QLabel*>(widget);
+                if (label != nullptr && label->wordWrap()) {
+                    EXPECT_LE(widget->fontMetrics().boundingRect(room, Qt::TextWordWrap, text).height(), room.height());
+                } else {
+                    EXPECT_LE(widget->fontMetrics().horizontalAdvance(text), room.width()) << text.toStdString();
+                    EXPECT_TRUE(text.isEmpty() || widget->fontMetrics().height() <= room.height());
+                }
+                EXPECT_TRUE(inside_its_parents(*widget));
+            }
+            for (std::size_t a = 0; a < widgets.size(); ++a) {
+                for (std::size_t b = a + 1; b < widgets.size(); ++b) {
+                    if (widgets[a]->isAncestorOf(widgets[b]) || widgets[b]->isAncestorOf(widgets[a])) continue;
+                    // The value of a misc row stands on the row's band, and the rows share their border lines.
+                    if (name_of(*widgets[a]).contains("Misc") && name_of(*widgets[b]).contains("Misc")) continue;
+                    auto const place = [&](QWidget* widget) { return QRect{widget->mapTo(&screen.window, QPoint{}), widget->size()}; };
+                    EXPECT_FALSE(place(widgets[a]).intersects(place(widgets[b])))
+                        << name_of(*widgets[a]).toStdString() << " and " << name_of(*widgets[b]).toStdString() << " at " << share;
+                }
+            }
+        }
+    }
+}
+
+/// The best contrast of any pixel to the commonest colour.
+double contrast_in(QImage const& picture)
+{
+    std::map<QRgb, int> counts;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) ++counts[picture.pixel(x, y)];
+    }
+    auto const background = std::max_element(counts.begin(), counts.end(), [](auto const& a, auto const& b) { return a.second < b.second; });
+    double best = 1;
+    for (auto const& [colour, count] : counts) best = std::max(best, contrast_ratio(QColor{colour}, QColor{background->first}));
+    return best;
+}
+
+TEST(WindowLook, every_text_is_readable_in_light_dark_and_high_contrast)
+{
+    QPalette const usual = QApplication::palette();
+    Screen screen{1.5}; // strokes of full colour
+    fill(screen);
+    QPalette dark{QColor{53, 53, 56}, QColor{45, 45, 48}};
+    dark.setColor(QPalette::Base, QColor{30, 30, 30});
+    QPalette high_contrast{Qt::black, Qt::black};
+    high_contrast.setColor(QPalette::Base, Qt::black);
+    for (QPalette const& palette : {usual, dark, high_contrast}) {
+        QApplication::setPalette(palette);
+        QCoreApplication::processEvents();
+        for (int const tab : tabs) {
+            screen.choose_tab(tab);
+            QPixmap const window = screen.window.grab();
+            for (QWidget* const widget : shown_widgets(screen)) {
+                auto const [room, text] = content_of(*widget);
+                if (text.trimmed().isEmpty()) continue;
+                QRect place{widget->mapTo(&screen.window, room.topLeft()), room.size()};
+                if (qobject_cast<QGroupBox*>(widget) != nullptr) place.setHeight(widget->fontMetrics().height());
+                place = place.adjusted(2, 2, -2, -2);
+                qreal const dots = window.devicePixelRatio();
+                QRect const dots_place{(place.topLeft().toPointF() * dots).toPoint(), place.size() * dots};
+                EXPECT_GE(contrast_in(window.copy(dots_place).toImage()), least_contrast)
+                    << name_of(*widget).toStdString() << " on " << palette.color(QPalette::Window).name().toStdString();
+            }
+        }
+    }
+    QApplication::setPalette(usual);
+}
+
+TEST(WindowLook, neighbouring_misc_rows_differ_and_odd_ones_are_light_grey)
+{
+    Screen screen;
+    auto const behind = [&](char const* row) {
+        auto& box = screen.named<QCheckBox>(row);
+        return box.grab().toImage().pixelColor(box.width() / 2, 2);
+    };
+    EXPECT_EQ(behind("chkMisc(1)"), QColor(240, 240, 240));
+    EXPECT_EQ(behind("chkMisc(3)"), QColor(240, 240, 240));
+    EXPECT_GE(std::abs(behind("chkMisc(2)").lightness() - 240), 8);
+}
+
+/// The names of the widgets that the Tab key reaches, from the tab strip on.
+std::vector<QString> tab_walk(Screen& screen)
+{
+    std::vector<QString> names;
+    auto* const first = &screen.named<QWidget>("TabStrip");
+    first->setFocus();
+    do {
+        names.push_back(screen.window.focusWidget()->objectName());
+        QTest::keyClick(screen.window.focusWidget(), Qt::Key_Tab);
+    } while (screen.window.focusWidget() != first && names.size() < 500);
+    return names;
+}
+
+std::vector<QString> sequence(QString const& name, int first, int last)
+{
+    std::vector<QString> names;
+    for (int k = first; k <= last; ++k) names.push_back(QString{"%1(%2)"}.arg(name).arg(k));
+    return names;
+}
+
+TEST(WindowLook, the_tab_key_goes_in_reading_order_through_everything)
+{
+    Screen screen;
+    std::vector<QString> army{"TabStrip", "txtArmyName", "cmdSaveArmy", "cmdLoadArmy", "txtTotal"};
+    auto const add = [](std::vector<QString>& names, std::vector<QString> const& more) { names.insert(names.end(), more.begin(), more.end()); };
+    for (int row = 0; row < 8; ++row) add(army, {QString{"txtUnitType(%1)"}.arg(row), QString{"txtUnitNum(%1)"}.arg(row)});
+    add(army, {"txtTotalNo", "cmbOpt(5)"});
+    add(army, sequence("opt", 25, 29));
+    add(army, {"cmbOpt(1)"});
+    add(army, sequence("opt", 4, 6));
+    add(army, {"cmbLevel", "cmbOpt(0)"});
+    add(army, sequence("opt", 0, 3));
+    add(army, {"cmbOpt(2)"});
+    add(army, sequence("opt", 7, 12));
+    add(army, {"cmbOpt(3)"});
+    add(army, sequence("opt", 13, 19));
+    add(army, {"cmbOpt(7)"});
+    add(army, sequence("opt", 41, 46));
+    add(army, {"cmbOpt(4)"});
+    add(army, sequence("opt", 20, 24));
+    add(army, sequence("opt", 39, 40));
+    for (int row = 1; row <= 24; ++row) add(army, {QString{"chkMisc(%1)"}.arg(row), QString{"cmbMisc(%1)"}.arg(row)});
+    EXPECT_EQ(tab_walk(screen), army);
+
+    std::vector<QString> combat{"TabStrip",    "txtTotalMod(0)",   "txtTotalMod(1)",   "cmdRollAll",      "cmdRoll(0)",
+                                "cmdRoll(1)",  "txtResult(0)",     "txtResult(1)",     "txtLoserCasualty", "txtVictorCasRoll",
+                                "cmdRollCasualty", "txtCasRollBonus", "chkPlus5",      "chkMinus5",       "cmdRollVictorCas",
+                                "txtVictorCasPercent", "txtVictorCas"};
+    for (int const side : {0, 1}) {
+        for (int row = 8 * side; row < 8 * side + 8; ++row) {
+            add(combat, {QString{"txtAName(%1)"}.arg(row), QString{"txtANum(%1)"}.arg(row), QString{"txtLoses(%1)"}.arg(row)});
+        }
+        add(combat, {QString{"cmdApplyCasualties(%1)"}.arg(side)});
+    }
+    add(combat, {"txtBattleResults", "txtVictorDesc", "cmdSimulate"});
+    screen.choose_tab(3);
+    EXPECT_EQ(tab_walk(screen), combat);
+}
+
+TEST(WindowLook, every_widget_that_takes_the_keyboard_has_a_name_of_its_own)
+{
+    Screen screen;
+    std::set<QString> names;
+    for (QWidget* const widget : screen.window.findChildren<QWidget*>()) {
+        bool const inside_another = qobject_cast<QComboBox*>(widget->parentWidget()) != nullptr;
+        if (inside_another || (widget->focusPolicy() & Qt::TabFocus) == 0) continue;
+        EXPECT_FALSE(widget->accessibleName().isEmpty()) << widget->metaObject()->className() << " in " << widget->parentWidget()->metaObject()->className();
+        EXPECT_TRUE(names.insert(widget->accessibleName()).second) << widget->accessibleName().toStdString();
+    }
+    EXPECT_EQ(screen.named<QWidget>("txtLoses(10)").accessibleName(), "Side B, unit 3, loses");
+}
+
+TEST(SmallScreen, every_control_can_be_scrolled_to)
+{
+    Screen screen{1.5};
+    EXPECT_LE(screen.window.height(), 600);
+    EXPECT_EQ(screen.form.FrameMisc.box(), (Frame::Box{6360, 360, 6120, 8520}));
+    for (int const tab : {1, 3}) {
+        screen.choose_tab(tab);
+        for (QString const& name : tab_walk(screen)) {
+            auto& widget = screen.named<QWidget>(name.toUtf8());
+            widget.setFocus();
+            QTest::keyClick(&widget, Qt::Key_Tab);
+            QTest::keyClick(screen.window.focusWidget(), Qt::Key_Backtab);
+            EXPECT_TRUE(inside_its_parents(widget)) << name.toStdString();
+        }
+    }
+}
+
+} // namespace
+
+} // namespace warhost

@@ -1,0 +1,215 @@
+// What the user does reaches the form, what the form writes shows.
+#include "window_fixture.h"
+
+#include "army/modifier_options.h"
+#include "temporary_folder.h"
+#include "ui/qt/option_choice.h"
+#include "ui/qt/value_box.h"
+
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRegularExpression>
+
+namespace warhost {
+
+namespace {
+
+/// Counts the runs of a handler that stays in place.
+int& counted(Notification& handler)
+{
+    auto const runs = std::make_shared<int>(0);
+    handler = [runs, before = handler] {
+        ++*runs;
+        if (before) before();
+    };
+    return *runs;
+}
+
+TEST(Window, what_is_typed_reaches_the_handler_once_per_key)
+{
+    Screen screen;
+    int const& changes = counted(screen.form.txtArmyName.Change);
+    auto& name = screen.named<QLineEdit>("txtArmyName");
+    EXPECT_EQ(screen.window.focusWidget(), &name);
+    QTest::keyClicks(&name, "Orks");
+    EXPECT_EQ(changes, 4);
+    QTest::keyClick(&name, Qt::Key_Left);
+    QTest::keyClick(&name, Qt::Key_Backspace);
+    QTest::keyClicks(&name, "c");
+    EXPECT_EQ(changes, 6);
+    EXPECT_EQ(screen.form.ArmyA.Name, "Orcs");
+    EXPECT_EQ(name.cursorPosition(), 3);
+}
+
+TEST(Window, what_a_rule_writes_shows_and_does_not_come_back)
+{
+    Screen screen;
+    QTest::keyClicks(&screen.named<QLineEdit>("txtUnitNum(2)"), " men"); // behind the 0
+    QTest::keyClicks(&screen.named<QLineEdit>("txtUnitNum(3)"), "40");
+    EXPECT_EQ(screen.named<QLineEdit>("txtTotalNo").text(), "40");
+    EXPECT_EQ(screen.named<QLineEdit>("txtANum(2)").text(), "0 men");
+
+    int const& changes = counted(screen.form.txtUnitType(0).Change);
+    std::string const odd = "two\nlines\r & <b>no markup</b>" + std::string(40000, 'x');
+    screen.form.txtUnitType(0).set_text(odd);
+    EXPECT_EQ(changes, 1);
+    EXPECT_EQ(screen.form.txtUnitType(0).text(), odd);
+}
+
+TEST(Window, a_value_box_gives_what_is_typed_or_chosen)
+{
+    Screen screen;
+    auto& box = screen.named<ValueBox>("cmbOpt(5)");
+    QTest::mouseClick(&screen.named<OptionChoice>("opt(29)"), Qt::LeftButton, {}, {8, 8});
+    EXPECT_EQ(box.currentText(), "+5");
+
+    int const& clicks = counted(screen.form.cmbOpt(5).Click);
+    int const& changes = counted(screen.form.cmbOpt(5).Change);
+    box.lineEdit()->selectAll();
+    QTest::keyClicks(&box, "+7");
+    QTest::keyClick(&box, Qt::Key_Enter);
+    QTest::keyClick(&box, Qt::Key_Tab);
+    EXPECT_EQ(changes, 2);
+    EXPECT_EQ(clicks, 0);
+    QTest::keyClick(&box, Qt::Key_Down);
+    EXPECT_EQ(screen.form.CurArmy.OptValue.at(5), 8);
+    EXPECT_EQ(clicks, 1);
+
+    box.showPopup();
+    EXPECT_EQ(box.count(), 16);
+    EXPECT_EQ(box.currentText(), "+8");
+    box.hidePopup();
+    box.lineEdit()->selectAll();
+    QTest::keyClicks(&box, "fifty & more");
+    EXPECT_EQ(screen.form.cmbOpt(5).text(), "fifty & more");
+}
+
+TEST(Window, option_buttons_follow_the_form)
+{
+    Screen screen;
+    auto& trained = screen.named<OptionChoice>("opt(1)");
+    auto& disciplined = screen.named<OptionChoice>("opt(2)");
+    int const& clicks = counted(screen.form.opt(1).Click);
+    QTest::mouseClick(&trained, Qt::LeftButton, {}, {8, 8});
+    QTest::mouseClick(&trained, Qt::LeftButton, {}, {8, 8});
+    EXPECT_EQ(clicks, 1);
+    EXPECT_TRUE(trained.isChecked());
+
+    QTest::keyClick(&trained, Qt::Key_Down);
+    EXPECT_TRUE(screen.form.opt(2).selected());
+    EXPECT_FALSE(trained.isChecked());
+    EXPECT_EQ(screen.window.focusWidget(), &disciplined);
+
+    screen.choose_tab(2);
+    EXPECT_FALSE(disciplined.isChecked()) << "Side B has none selected";
+}
+
+TEST(Window, ticking_a_misc_row_counts_and_its_help_key_opens_its_topic)
+{
+    Screen screen;
+    auto& box = screen.named<QCheckBox>("chkMisc(1)");
+    QTest::keyClick(&box, Qt::Key_Space);
+    EXPECT_EQ(screen.form.CurArmy.MiscCheck.at(1), 1);
+    EXPECT_TRUE(box.font().bold());
+    box.setFocus();
+    QTest::keyClick(&box, Qt::Key_F1);
+    EXPECT_EQ(screen.desktop.topic, screen.form.chkMisc(1).help_topic);
+}
+
+TEST(Window, tabs_swap_the_armies)
+{
+    Screen screen;
+    auto& name = screen.named<QLineEdit>("txtArmyName");
+    QTest::keyClicks(&name, "Elves");
+    screen.choose_tab(2);
+    EXPECT_EQ(name.text(), "");
+    QTest::keyClicks(screen.window.focusWidget(), "Dwarves");
+    screen.choose_tab(3);
+    EXPECT_FALSE(name.isVisible());
+    EXPECT_TRUE(screen.named<QPushButton>("cmdRollAll").isVisible());
+    screen.choose_tab(1);
+    EXPECT_EQ(name.text(), "Elves");
+    EXPECT_EQ(screen.form.ArmyB.Name, "Dwarves");
+}
+
+TEST(Window, save_and_load_through_the_menu)
+{
+    TemporaryFolder const folder;
+    Screen screen;
+    screen.desktop.path = folder.path() + "/elves.Army";
+    auto& name = screen.named<QLineEdit>("txtArmyName");
+    QTest::keyClicks(&name, "Elves");
+    screen.trigger("mnuSave");
+    screen.choose_tab(2);
+    screen.trigger("mnuLoad");
+    EXPECT_EQ(name.text(), "Elves");
+    EXPECT_EQ(screen.form.ArmyB.Name, "Elves");
+    screen.choose_tab(3);
+    screen.trigger("mnuLoad");
+    EXPECT_EQ(screen.desktop.titles.size(), 1U) << "refused while neither side is chosen";
+}
+
+TEST(Window, closing_asks_first)
+{
+    Screen screen;
+    screen.desktop.answers = {Answer::no, Answer::yes};
+    EXPECT_FALSE(screen.window.close());
+    EXPECT_TRUE(screen.window.isVisible());
+    screen.trigger("mnuQuit");
+    EXPECT_FALSE(screen.window.isVisible());
+    EXPECT_EQ(screen.desktop.titles, (std::vector<std::string>{"Quit Warhost?", "Quit Warhost?"}));
+}
+
+TEST(Window, the_four_containers_follow_the_windows_size)
+{
+    Screen screen;
+    auto const panel_height = screen.named<QWidget>("FrameMisc").height();
+    auto const name_place = screen.named<QWidget>("txtArmyName").mapTo(&screen.window, QPoint{});
+    EXPECT_EQ(screen.form.FrameMisc.box(), (Frame::Box{6360, 360, 6120, 8520}));
+    screen.window.resize(screen.window.size() + QSize{100, -200});
+    QCoreApplication::processEvents();
+    EXPECT_EQ(screen.named<QWidget>("FrameMisc").height(), panel_height - 200);
+    EXPECT_EQ(screen.form.FrameMisc.box(), (Frame::Box{6360, 360, 6120 + 1500, 8520 - 3000}));
+    EXPECT_EQ(screen.named<QWidget>("txtArmyName").mapTo(&screen.window, QPoint{}), name_place);
+}
+
+/// "opt(0-3)" stands for opt(0) to opt(3).
+std::vector<QString> spelled_out(QString const& ranges)
+{
+    std::vector<QString> names;
+    static QRegularExpression const range{R"(^(\w+)\((\d+)-(\d+)\)$)"};
+    for (QString const& word : ranges.split(' ', Qt::SkipEmptyParts)) {
+        auto const match = range.match(word);
+        if (!match.hasMatch()) {
+            names.push_back(word);
+            continue;
+        }
+        for (int k = match.captured(2).toInt(); k <= match.captured(3).toInt(); ++k) {
+            names.push_back(QString{"%1(%2)"}.arg(match.captured(1)).arg(k));
+        }
+    }
+    return names;
+}
+
+TEST(Window, every_control_is_there_once_under_its_name)
+{
+    Screen screen;
+    auto const names = spelled_out(
+        "TabStrip FrameArmy FrameCombat FrameMisc mnuFile mnuLoad mnuSave mnuQuit mnuWebLinks mnuWeb(1) mnuWeb(3) mnuWeb(5) "
+        "mnuWeb(7) mnuWeb(9) mnuHelp mnuHelpContents mnuAbout Label(0-25) txtArmyName cmdSaveArmy cmdLoadArmy Label4 "
+        "txtTotal FrameUnits Label1 Label2 txtUnitType(0-7) txtUnitNum(0-7) Label3 txtTotalNo Label12 lblRatio Label14 "
+        "lblRatioBonus FrameDiscipline Frame1 Frame2 Frame3 Frame4 Frame5 Frame10 Frame11 opt(0-29) opt(39-46) cmbOpt(0-5) "
+        "cmbOpt(7) Label15 cmbLevel Label16 lblOtherLevel Label18 lblLevelBonus chkMisc(1-24) cmbMisc(1-24) Label5 "
+        "txtTotalMod(0-1) Label6 cmdRollAll Frame6 cmdRoll(0-1) txtResult(0-1) Label7(0) lblWinner Label8 lblWinBy Label9 "
+        "Frame7 txtLoserCasualty txtVictorCasRoll cmdRollCasualty txtCasRollBonus chkPlus5 chkMinus5 lblCasRange "
+        "cmdRollVictorCas txtVictorCasPercent lblLoserPercent Label13 txtVictorCas frmSideA Frame8 txtAName(0-15) "
+        "txtANum(0-15) txtLoses(0-15) cmdApplyCasualties(0-1) Frame9 Label10 txtBattleResults Label11 txtVictorDesc cmdSimulate");
+    for (QString const& name : names) {
+        EXPECT_EQ(screen.window.findChildren<QObject*>(name).size(), 1) << name.toStdString();
+    }
+}
+
+} // namespace
+
+} // namespace warhost
