@@ -6,6 +6,9 @@ source scripts/install.sh
 
 install_packages "${packages_build[@]}"
 build release
+# The off-screen platform's own screen is smaller than the window.
+screen=$(mktemp)
+trap 'rm -f "$screen"' EXIT
+printf '{"screens": [{"name": "one", "x": 0, "y": 0, "width": 2400, "height": 1800, "logicalDpi": 96, "dpr": 1}]}' >"$screen"
 mkdir -p data/help/images
-QT_QPA_PLATFORM=offscreen QT_SCALE_FACTOR=2 build/release/bin/pictures data data/help/images
-build release
+QT_QPA_PLATFORM=offscreen:configfile=$screen QT_SCALE_FACTOR=2 build/release/bin/pictures data data/help/images
