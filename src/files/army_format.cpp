@@ -116,7 +116,7 @@ public:
             count = elements == 0 ? 0 : std::min<std::uint64_t>(count, bytes_.size() + 1) * elements;
         }
         std::size_t const smallest = element == Element::number ? 4 : 2;
-        if (count > (bytes_.size() - at_) / smallest) fail(field, std::to_string(count) + " list elements");
+        if (count > (bytes_.size() - at_) / smallest) fail(field, "more elements than the file has room for");
         if (element == Element::number) {
             take(field, static_cast<std::size_t>(count) * smallest);
         } else {

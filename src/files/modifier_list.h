@@ -20,8 +20,9 @@ struct ModifierEntry {
 };
 
 /// The entries of a list file: a name line and a values line each ("topic|first,second"), ended by CR LF or LF, in
-/// UTF-8 (a byte-order mark is skipped) or else Windows-1252. Reading ends after an entry without values, without a
-/// name, or with nothing after its comma. A last name line without a values line makes no entry. Never fails.
+/// UTF-8 (a byte-order mark is skipped) or else Windows-1252. Reading ends after an entry without values, with
+/// nothing after its comma, or with neither name nor comma. A last name line without a values line makes no entry.
+/// Never fails.
 std::vector<ModifierEntry> parse_modifier_list(std::string_view bytes);
 
 } // namespace warhost

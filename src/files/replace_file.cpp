@@ -18,19 +18,20 @@ void require(bool succeeded)
 }
 
 /// A new file in a folder. It has no name until it is put in place, so that nothing of it stays behind whatever happens
-/// before; where the file system knows no such files it has a name of its own from the start.
+/// before; where the system knows no such files it has a name of its own from the start.
 class NewFile {
+    static constexpr char const* open_files = "/proc/self/fd"; // a nameless file gets its name through it
+
 public:
-    explicit NewFile(std::filesystem::path folder)
-        : folder_(std::move(folder)),
-          descriptor_(::open(folder_.c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, 0666))
+    explicit NewFile(std::filesystem::path folder) : folder_(std::move(folder))
     {
-        bool const knows_no_nameless = errno == EOPNOTSUPP || errno == EISDIR || errno == EINVAL || errno == ENOENT;
-        if (descriptor_ < 0 && knows_no_nameless) {
-            give_name(
-                [&] { return (descriptor_ = ::open(name_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666)); });
+        if (::access(open_files, F_OK) == 0) {
+            descriptor_ = ::open(folder_.c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, 0666);
+            bool const unknown = errno == EOPNOTSUPP || errno == EISDIR || errno == EINVAL || errno == ENOENT;
+            require(descriptor_ >= 0 || unknown);
         }
-        require(descriptor_ >= 0);
+        if (descriptor_ >= 0) return;
+        give_name([&] { return (descriptor_ = ::open(name_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666)); });
     }
     NewFile(NewFile const&) = delete;
     NewFile& operator=(NewFile const&) = delete;
@@ -82,7 +83,7 @@ private:
 
     int link_to(std::filesystem::path const& path) const
     {
-        std::string const self = "/proc/self/fd/" + std::to_string(descriptor_);
+        std::string const self = open_files + ("/" + std::to_string(descriptor_));
         return ::linkat(AT_FDCWD, self.c_str(), AT_FDCWD, path.c_str(), AT_SYMLINK_FOLLOW);
     }
 
@@ -109,7 +110,7 @@ void replace_durably(std::filesystem::path const& target, std::string_view bytes
 {
     auto const folder = target.has_parent_path() ? target.parent_path() : std::filesystem::path{"."};
     // A file marked read-only stays, although a rename could replace it.
-    if (::access(target.c_str(), W_OK) != 0) require(errno == ENOENT);
+    if (::faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) != 0) require(errno == ENOENT);
     NewFile file{folder};
     struct stat existing = {};
     if (::stat(target.c_str(), &existing) == 0) file.set_permissions(existing.st_mode & 07777U);

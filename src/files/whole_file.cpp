@@ -57,10 +57,11 @@ std::string read_file(std::string const& path)
     if (!file) throw file_failure(last_error(std::errc::io_error), path);
     std::string bytes;
     std::string block(std::size_t{64} * 1024, '\0');
-    while (file.read(block.data(), static_cast<std::streamsize>(block.size())) || file.gcount() > 0) {
+    while (bytes.size() < most_bytes_read && file) {
+        file.read(block.data(), static_cast<std::streamsize>(block.size()));
         bytes.append(block, 0, static_cast<std::size_t>(file.gcount()));
     }
-    if (!file.eof()) throw file_failure(last_error(std::errc::io_error), path);
+    if (file.bad()) throw file_failure(last_error(std::errc::io_error), path);
     return bytes;
 }
 

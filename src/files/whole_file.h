@@ -1,6 +1,7 @@
 // Reading a file whole, and replacing one so that its path always holds either the old file or the new one.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -8,6 +9,9 @@ namespace warhost {
 
 /// Whether path (UTF-8) names something that exists and is no folder. Never fails: what cannot be asked is false.
 bool FileExists(std::string const& path);
+
+/// No army and no list comes near this many bytes; what a file holds beyond them is not read.
+inline constexpr std::size_t most_bytes_read = std::size_t{64} << 20U;
 
 /// The bytes of an ordinary file, opened for reading only. Throws a Failure that names the path and the cause.
 std::string read_file(std::string const& path);

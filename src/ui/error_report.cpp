@@ -1,12 +1,15 @@
 #include "files/whole_file.h"
 #include "ui/main.h"
 
+#include <utility>
+
 namespace warhost {
 
 void Main::ErrReport(std::string const& context)
 {
     if (pending_error.number == 0) return;
-    std::string text = "Error " + plain_text(pending_error.number) + ": '" + pending_error.text + "'.\r\n";
+    Failure const failure = std::exchange(pending_error, {});
+    std::string text = "Error " + plain_text(failure.number) + ": '" + failure.text + "'.\r\n";
     if (!context.empty()) text += "Raised while " + context + "\r\n";
     text += "\r\nPress Ignore to continue.\r\n"
             "If you press Abort, the program will end and you will lose any unsaved data."
@@ -14,7 +17,6 @@ void Main::ErrReport(std::string const& context)
     auto const answer =
         desktop_.message_box({text, "Error!", Buttons::abort_retry_ignore, Icon::critical, Answer::ignore});
     if (answer == Answer::abort) desktop_.end_program();
-    pending_error = {};
 }
 
 bool Main::CheckFile(std::string const& path)
