@@ -37,15 +37,17 @@ constexpr int middle_options = 4 + 6 + 7 + 7;
 
 ArmyPage::ArmyPage(Main& form, Scale const& scale, QSize content, std::function<void(int)> const& show_help,
                    QWidget* parent)
-    : ScreenArea(parent), form_(form), make_(surface(), scale, row_height)
+    : ScreenArea(parent),
+      form_(form),
+      make_(surface(), scale, row_height)
 {
     name_after(form.FrameArmy, *this);
     Frame::Box const& misc = form.FrameMisc.box();
     int const top = scale.from_twips(misc.Top);
     int const middle_width = scale.from_twips(misc.Left) - make_.pixels(left_width) - 2 * make_.pixels(gap);
     int const frame_extra = make_.frame_margin() + make_.pixels(row_height);
-    option_height_ =
-        (content.height() - top - (middle_frames - 1) * make_.pixels(gap) - middle_frames * frame_extra) / middle_options;
+    option_height_ = (content.height() - top - (middle_frames - 1) * make_.pixels(gap) - middle_frames * frame_extra) /
+                     middle_options;
 
     auto* const content_area = new QWidget{&surface()};
     content_area->setFixedSize(content);
@@ -135,7 +137,9 @@ QWidget* ArmyPage::units()
         number->setBuddy(type);
         grid->addWidget(number, row + 1, 0);
         grid->addWidget(type, row + 1, 1);
-        grid->addWidget(make_.number_box(form_.txtUnitNum(row), QString{"Unit %1, soldiers"}.arg(row + 1), soldiers_width), row + 1, 2);
+        grid->addWidget(
+            make_.number_box(form_.txtUnitNum(row), QString{"Unit %1, soldiers"}.arg(row + 1), soldiers_width), row + 1,
+            2);
     }
     auto* const total_label = make_.label(form_.Label3);
     auto* const total = make_.number_box(form_.txtTotalNo, "Total number of soldiers", soldiers_width);
@@ -173,7 +177,8 @@ QWidget* ArmyPage::category(int index, Frame& frame, int width, TextLabel* note)
     }
     for (auto const& row : options) {
         if (row.category != index) continue;
-        column->addWidget(make_.option(form_.opt(row.index), category_name + ": " + to_qt(row.caption), box, option_height_));
+        column->addWidget(
+            make_.option(form_.opt(row.index), category_name + ": " + to_qt(row.caption), box, option_height_));
     }
     column->addStretch();
     return box;

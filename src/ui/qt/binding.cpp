@@ -45,7 +45,8 @@ void bind(TextBox& field, QLineEdit& box)
     name_after(field, box);
     box.setMaxLength(std::numeric_limits<int>::max());
     box.setReadOnly(field.read_only);
-    QObject::connect(&box, &QLineEdit::textEdited, &box, [&](QString const& typed) { field.set_text(typed.toStdString()); });
+    QObject::connect(&box, &QLineEdit::textEdited, &box,
+                     [&](QString const& typed) { field.set_text(typed.toStdString()); });
     field.show = [&] { show_text(box, field.text()); };
     field.show();
 }

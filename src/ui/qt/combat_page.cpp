@@ -30,7 +30,9 @@ constexpr int apply_width = 116;
 } // namespace
 
 CombatPage::CombatPage(Main& form, Scale const& scale, QSize content, QWidget* parent)
-    : ScreenArea(parent), form_(form), make_(surface(), scale, row_height)
+    : ScreenArea(parent),
+      form_(form),
+      make_(surface(), scale, row_height)
 {
     name_after(form.FrameCombat, *this);
     auto* const content_area = new QWidget{&surface()};
@@ -57,8 +59,8 @@ QLayout* CombatPage::totals()
     grid->setColumnStretch(2, 1);
     for (int const Index : {0, 1}) {
         auto* const caption = make_.label(Index == 0 ? form_.Label5 : form_.Label6);
-        auto* const total = make_.number_box(form_.txtTotalMod(Index),
-                                             QString{"Side %1, total modifier"}.arg(Index == 0 ? 'A' : 'B'), number_width);
+        auto* const total = make_.number_box(
+            form_.txtTotalMod(Index), QString{"Side %1, total modifier"}.arg(Index == 0 ? 'A' : 'B'), number_width);
         caption->setBuddy(total);
         grid->addWidget(caption, Index, 0);
         grid->addWidget(total, Index, 1);
@@ -83,8 +85,8 @@ QWidget* CombatPage::battle_roll()
     }
     for (int const Index : {0, 1}) {
         auto* const caption = make_.label(form_.Label(8 + Index));
-        auto* const result =
-            make_.number_box(form_.txtResult(Index), QString{"Side %1, result"}.arg(Index == 0 ? 'A' : 'B'), number_width);
+        auto* const result = make_.number_box(form_.txtResult(Index),
+                                              QString{"Side %1, result"}.arg(Index == 0 ? 'A' : 'B'), number_width);
         caption->setBuddy(result);
         grid->addWidget(caption, 1, 3 * Index);
         grid->addWidget(result, 1, 3 * Index + 1);
@@ -177,7 +179,8 @@ QLayout* CombatPage::victor_percent_line()
     range->setAlignment(Qt::AlignCenter);
     line->addWidget(range);
     line->addWidget(make_.button(form_.cmdRollVictorCas, "Roll inside the victor's range", roll_width));
-    line->addWidget(make_.number_box(form_.txtVictorCasPercent, "Victor's casualties, percent of the loser's", box_width));
+    line->addWidget(
+        make_.number_box(form_.txtVictorCasPercent, "Victor's casualties, percent of the loser's", box_width));
     line->addWidget(make_.label(form_.Label(14)));
     line->addWidget(make_.label(form_.lblLoserPercent, 36));
     auto* const is = make_.label(form_.Label13);
@@ -213,7 +216,8 @@ QWidget* CombatPage::side(int Index)
         grid->addWidget(make_.number_box(form_.txtLoses(field), unit + "loses", number_width), row + 1, 2);
     }
     grid->setRowStretch(unit_rows + 1, 1);
-    grid->addWidget(make_.button(form_.cmdApplyCasualties(Index), QString{"Apply casualties to Side %1"}.arg(Index == 0 ? 'A' : 'B'), apply_width),
+    grid->addWidget(make_.button(form_.cmdApplyCasualties(Index),
+                                 QString{"Apply casualties to Side %1"}.arg(Index == 0 ? 'A' : 'B'), apply_width),
                     unit_rows + 2, 0, 1, 3, Qt::AlignRight);
     return frame;
 }

@@ -25,10 +25,10 @@ QIcon window_icon()
 
 int main(int argc, char* argv[])
 {
-    QApplication application{argc, argv};
+    QApplication const application{argc, argv};
     QCoreApplication::setApplicationName("warhost");
     QGuiApplication::setDesktopFileName("warhost");
-    application.setWindowIcon(window_icon());
+    QGuiApplication::setWindowIcon(window_icon());
     // No display name: it would be appended to the title of every dialog.
 
     using namespace std::chrono;

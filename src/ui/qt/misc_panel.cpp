@@ -39,7 +39,10 @@ RowColours row_colours(QPalette const& palette)
 }
 
 MiscPanel::MiscPanel(Main& form, Scale const& scale, std::function<void(int)> show_help, QWidget* parent)
-    : CaptionFrame(0, parent), form_(form), scale_(scale), show_help_(std::move(show_help))
+    : CaptionFrame(0, parent),
+      form_(form),
+      scale_(scale),
+      show_help_(std::move(show_help))
 {
     bind(form.FrameMisc, *this);
 }
@@ -66,7 +69,8 @@ void MiscPanel::make_row(int index)
     auto const geometry = [this](Place const& place) {
         int const left = scale_.from_twips(place.Left);
         int const top = scale_.from_twips(place.Top);
-        return QRect{QPoint{left, top}, QPoint{scale_.from_twips(place.Left + place.Width) - 1, scale_.from_twips(place.Top + place.Height) - 1}};
+        return QRect{QPoint{left, top}, QPoint{scale_.from_twips(place.Left + place.Width) - 1,
+                                               scale_.from_twips(place.Top + place.Height) - 1}};
     };
     QString const caption = to_qt(box_field.caption());
     Row const row{index, new QCheckBox{this}, new ValueBox{value_field}};

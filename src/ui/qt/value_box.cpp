@@ -2,8 +2,11 @@
 
 #include "ui/qt/text.h"
 
+#include <QCompleter>
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QPointer>
 #include <QStringList>
 #include <QWheelEvent>
 
@@ -18,18 +21,28 @@ constexpr int page_of_places = 10;
 
 } // namespace
 
+/// As setEditable does, but without making the popup, and a completer that would alter what is typed: many boxes, most
+/// of them never opened, must not slow the start.
+void ValueBox::put_line_edit()
+{
+    static QPointer<QCompleter> spare; // setLineEdit makes a completer where there is none
+    if (spare.isNull()) spare = new QCompleter{QCoreApplication::instance()};
+    auto* const edit = new QLineEdit{this};
+    edit->setCompleter(spare);
+    setLineEdit(edit);
+    edit->setCompleter(nullptr);
+}
+
 ValueBox::ValueBox(ComboBox& field) : field_(field)
 {
-    setLineEdit(new QLineEdit{this}); // setEditable would make the popup as well
+    put_line_edit();
     setInsertPolicy(NoInsert);
-    setCompleter(nullptr);
-    setMinimumContentsLength(1);
-    setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
     // Leaving the box or pressing Enter chooses nothing, even when the typed text is in the list.
     disconnect(lineEdit(), &QLineEdit::returnPressed, this, nullptr);
     disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
     lineEdit()->setMaxLength(std::numeric_limits<int>::max());
-    connect(lineEdit(), &QLineEdit::textEdited, this, [this](QString const& typed) { field_.set_text(typed.toStdString()); });
+    connect(lineEdit(), &QLineEdit::textEdited, this,
+            [this](QString const& typed) { field_.set_text(typed.toStdString()); });
     connect(this, &QComboBox::activated, this, [this](int item) { field_.choose(static_cast<std::size_t>(item)); });
 }
 

@@ -19,6 +19,7 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private:
+    void put_line_edit();
     /// The place of the shown text in the field's list; -1 when it is not in it.
     int listed_place() const;
     void step(int places);

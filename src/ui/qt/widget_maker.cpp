@@ -30,7 +30,7 @@ int WidgetMaker::frame_margin() const { return pixels(frame_margin_base); }
 
 QLabel* WidgetMaker::label(TextLabel& field, int width) const
 {
-    auto* const made = new QLabel{&screen_};
+    auto* const made = new QLabel;
     bind(field, *made);
     made->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     if (width > 0) made->setFixedWidth(pixels(width));
@@ -39,7 +39,7 @@ QLabel* WidgetMaker::label(TextLabel& field, int width) const
 
 QLineEdit* WidgetMaker::text_box(TextBox& field, QString const& spoken, int width)
 {
-    auto* const made = interactive(new QLineEdit{&screen_}, spoken);
+    auto* const made = interactive(new QLineEdit, spoken);
     bind(field, *made);
     made->setFixedHeight(pixels(row_height_));
     if (width > 0) made->setFixedWidth(pixels(width));
@@ -57,7 +57,6 @@ QLineEdit* WidgetMaker::number_box(TextBox& field, QString const& spoken, int wi
 ValueBox* WidgetMaker::value_box(ComboBox& field, QString const& spoken, int width)
 {
     auto* const made = interactive(new ValueBox{field}, spoken);
-    made->setParent(&screen_);
     bind(field, *made);
     made->lineEdit()->setAlignment(Qt::AlignRight);
     made->setFixedSize(pixels(width), pixels(row_height_));
@@ -66,7 +65,7 @@ ValueBox* WidgetMaker::value_box(ComboBox& field, QString const& spoken, int wid
 
 QCheckBox* WidgetMaker::check_box(CheckBox& field, QString const& spoken)
 {
-    auto* const made = interactive(new QCheckBox{&screen_}, spoken);
+    auto* const made = interactive(new QCheckBox, spoken);
     bind(field, *made);
     return made;
 }
@@ -82,7 +81,7 @@ OptionChoice* WidgetMaker::option(OptionButton& field, QString const& spoken, QW
 
 QPushButton* WidgetMaker::button(Button& field, QString const& spoken, int width)
 {
-    auto* const made = interactive(new QPushButton{&screen_}, spoken);
+    auto* const made = interactive(new QPushButton, spoken);
     bind(field, *made);
     made->setAutoDefault(true); // Enter presses the button that has the keyboard
     made->setFixedHeight(pixels(row_height_));
@@ -92,7 +91,7 @@ QPushButton* WidgetMaker::button(Button& field, QString const& spoken, int width
 
 QTextEdit* WidgetMaker::description(RichTextBox& field, QString const& spoken)
 {
-    auto* const made = interactive(new QTextEdit{&screen_}, spoken);
+    auto* const made = interactive(new QTextEdit, spoken);
     bind(field, *made);
     made->setTabChangesFocus(true);
     return made;

@@ -21,13 +21,17 @@ class CaptionFrame;
 class OptionChoice;
 class ValueBox;
 
-/// Made in reading order, which becomes the order of the Tab key. spoken: the name by which a screen reader tells the
-/// widget from its neighbours. Widths are in pixels of the base size; 0 leaves the width to the layout.
+/// Made in reading order, which becomes the order of the Tab key. Frames are children of the screen at once, so that
+/// they know their font; everything else is left to the layout that it is put in. spoken: the name by which a screen
+/// reader tells the widget from its neighbours. Widths are in pixels of the base size; 0 leaves the width to the
+/// layout.
 class WidgetMaker {
 public:
     /// row_height: of boxes and buttons.
     WidgetMaker(QWidget& screen, Scale const& scale, int row_height)
-        : screen_(screen), scale_(scale), row_height_(row_height)
+        : screen_(screen),
+          scale_(scale),
+          row_height_(row_height)
     {
     }
 

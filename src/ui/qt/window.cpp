@@ -28,6 +28,20 @@ constexpr double created_width = 12840; // twips, as the heights and margins bel
 constexpr double created_height = 9600;
 constexpr int tab_height = 22; // pixels of the base size
 
+using MenuHandler = void (*)(Main&);
+
+// In the order of the menus' items.
+constexpr std::array<MenuHandler, 3> file_handlers{
+    [](Main& form) { form.mnuLoad_Click(); },
+    [](Main& form) { form.mnuSave_Click(); },
+    [](Main& form) { form.mnuQuit_Click(); },
+};
+constexpr std::array<MenuHandler, 2> help_handlers{
+    [](Main& form) { form.mnuHelpContents_Click(); },
+    [](Main& form) { form.mnuAbout_Click(); },
+};
+static_assert(file_handlers.size() == file_menu.size() && help_handlers.size() == help_menu.size());
+
 /// Of a screen, when the window stands in its created size: two margins are kept free at the right and below.
 QSize content_size(Frame const& frame, Scale const& scale)
 {
@@ -71,18 +85,19 @@ void Window::make_menus()
         for (std::size_t k = 0; k < items.size(); ++k) {
             QAction* const action = add(menu, items[k].name, items[k].caption);
             action->setShortcut(QKeySequence{to_qt(items[k].shortcut)});
-            connect(action, &QAction::triggered, this, [this, handler = handlers[k]] { (form_.*handler)(); });
+            connect(action, &QAction::triggered, this, [this, handler = handlers[k]] { handler(form_); });
         }
     };
-    fill(*add_menu("mnuFile", "&File"), file_menu,
-         std::array{&Main::mnuLoad_Click, &Main::mnuSave_Click, &Main::mnuQuit_Click});
+    fill(*add_menu("mnuFile", "&File"), file_menu, file_handlers);
     QMenu* const links = add_menu("mnuWebLinks", "&Web Links");
     for (auto const& link : web_links) {
-        QAction* const action = add(*links, "mnuWeb(" + std::to_string(link.index) + ")", link.caption);
-        if (link.caption == "-") action->setSeparator(true);
+        bool const separates = link.caption == "-";
+        QAction* const action =
+            add(*links, "mnuWeb(" + std::to_string(link.index) + ")", separates ? std::string_view{} : link.caption);
+        action->setSeparator(separates);
         connect(action, &QAction::triggered, this, [this, index = link.index] { form_.mnuWeb_Click(index); });
     }
-    fill(*add_menu("mnuHelp", "&Help"), help_menu, std::array{&Main::mnuHelpContents_Click, &Main::mnuAbout_Click});
+    fill(*add_menu("mnuHelp", "&Help"), help_menu, help_handlers);
 }
 
 void Window::fit_to_screen()
@@ -126,7 +141,8 @@ void Window::make_tab_strip()
 
 void Window::make_screens()
 {
-    army_ = new ArmyPage{form_, scale_, content_size(form_.FrameArmy, scale_), [this](int topic) { desktop_.show_help(topic); }, client_};
+    army_ = new ArmyPage{form_, scale_, content_size(form_.FrameArmy, scale_),
+                         [this](int topic) { desktop_.show_help(topic); }, client_};
     combat_ = new CombatPage{form_, scale_, content_size(form_.FrameCombat, scale_), client_};
     form_.FrameArmy.show = [this] { place_screen(form_.FrameArmy, *army_); };
     form_.FrameCombat.show = [this] { place_screen(form_.FrameCombat, *combat_); };
@@ -162,7 +178,8 @@ void Window::place_screen(Frame const& frame, ScreenArea& screen)
 void Window::place_misc_panel()
 {
     auto const& box = form_.FrameMisc.box();
-    army_->misc_panel().setGeometry(QRect{{scale_.from_twips(box.Left), scale_.from_twips(box.Top)}, scale_.from_twips(box.Width, box.Height)});
+    army_->misc_panel().setGeometry(
+        QRect{{scale_.from_twips(box.Left), scale_.from_twips(box.Top)}, scale_.from_twips(box.Width, box.Height)});
 }
 
 /// The screens keep their created size where they scroll, whatever the window's.
@@ -218,7 +235,7 @@ void Window::changeEvent(QEvent* event)
 
 void Window::closeEvent(QCloseEvent* event)
 {
-    // A second request while the question is open (a session that ends, say) waits for its answer.
+    // A second request while the question is open (the user logs off, say) waits for its answer.
     if (asks_to_quit_) {
         event->ignore();
         return;

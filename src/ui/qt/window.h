@@ -45,9 +45,9 @@ private:
     Main& form_;
     QtDesktop& desktop_;
     Scale scale_;
-    bool scrolls_ = false;     // the screen cannot hold the base size
+    bool scrolls_ = false; // the screen cannot hold the base size
     bool asks_to_quit_ = false;
-    QSize extra_{0, 0};        // what the scroll bars take from the client area
+    QSize extra_{0, 0}; // what the scroll bars take from the client area
     QWidget* client_;
     TabPage* tab_page_ = nullptr;
     QTabBar* tabs_ = nullptr;

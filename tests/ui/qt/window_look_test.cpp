@@ -41,15 +41,19 @@ std::vector<QWidget*> shown_widgets(Screen& screen)
 {
     std::vector<QWidget*> shown;
     for (QWidget* const widget : screen.window.findChildren<QWidget*>()) {
-        bool const counts = qobject_cast<QLabel*>(widget) != nullptr || qobject_cast<QAbstractButton*>(widget) != nullptr ||
-                            qobject_cast<QGroupBox*>(widget) != nullptr || qobject_cast<QLineEdit*>(widget) != nullptr ||
-                            qobject_cast<QTextEdit*>(widget) != nullptr;
+        bool const counts = qobject_cast<QLabel*>(widget) != nullptr ||
+                            qobject_cast<QAbstractButton*>(widget) != nullptr ||
+                            qobject_cast<QGroupBox*>(widget) != nullptr ||
+                            qobject_cast<QLineEdit*>(widget) != nullptr || qobject_cast<QTextEdit*>(widget) != nullptr;
         if (counts && widget->isVisible() && widget->width() > 0) shown.push_back(widget);
     }
     return shown;
 }
 
-QString name_of(QWidget const& widget) { return widget.objectName().isEmpty() ? widget.parentWidget()->objectName() : widget.objectName(); }
+QString name_of(QWidget const& widget)
+{
+    return widget.objectName().isEmpty() ? widget.parentWidget()->objectName() : widget.objectName();
+}
 
 /// The room that a widget has for its text, and the text.
 struct Content {
@@ -118,9 +122,12 @@ TEST(WindowLook, no_text_is_clipped_and_nothing_overlaps)
                     if (widgets[a]->isAncestorOf(widgets[b]) || widgets[b]->isAncestorOf(widgets[a])) continue;
                     // The value of a misc row stands on the row's band, and the rows share their border lines.
                     if (name_of(*widgets[a]).contains("Misc") && name_of(*widgets[b]).contains("Misc")) continue;
-                    auto const place = [&](QWidget* widget) { return QRect{widget->mapTo(&screen.window, QPoint{}), widget->size()}; };
+                    auto const place = [&](QWidget* widget) {
+                        return QRect{widget->mapTo(&screen.window, QPoint{}), widget->size()};
+                    };
                     EXPECT_FALSE(place(widgets[a]).intersects(place(widgets[b])))
-                        << name_of(*widgets[a]).toStdString() << " and " << name_of(*widgets[b]).toStdString() << " at " << share;
+                        << name_of(*widgets[a]).toStdString() << " and " << name_of(*widgets[b]).toStdString() << " at "
+                        << share;
                 }
             }
         }
@@ -134,9 +141,11 @@ double contrast_in(QImage const& picture)
     for (int y = 0; y < picture.height(); ++y) {
         for (int x = 0; x < picture.width(); ++x) ++counts[picture.pixel(x, y)];
     }
-    auto const background = std::max_element(counts.begin(), counts.end(), [](auto const& a, auto const& b) { return a.second < b.second; });
+    auto const background = std::max_element(counts.begin(), counts.end(),
+                                             [](auto const& a, auto const& b) { return a.second < b.second; });
     double best = 1;
-    for (auto const& [colour, count] : counts) best = std::max(best, contrast_ratio(QColor{colour}, QColor{background->first}));
+    for (auto const& [colour, count] : counts)
+        best = std::max(best, contrast_ratio(QColor{colour}, QColor{background->first}));
     return best;
 }
 
@@ -207,8 +216,11 @@ TEST(WindowLook, the_tab_key_goes_in_reading_order_through_everything)
 {
     Screen screen;
     std::vector<QString> army{"TabStrip", "txtArmyName", "cmdSaveArmy", "cmdLoadArmy", "txtTotal"};
-    auto const add = [](std::vector<QString>& names, std::vector<QString> const& more) { names.insert(names.end(), more.begin(), more.end()); };
-    for (int row = 0; row < 8; ++row) add(army, {QString{"txtUnitType(%1)"}.arg(row), QString{"txtUnitNum(%1)"}.arg(row)});
+    auto const add = [](std::vector<QString>& names, std::vector<QString> const& more) {
+        names.insert(names.end(), more.begin(), more.end());
+    };
+    for (int row = 0; row < 8; ++row)
+        add(army, {QString{"txtUnitType(%1)"}.arg(row), QString{"txtUnitNum(%1)"}.arg(row)});
     add(army, {"txtTotalNo", "cmbOpt(5)"});
     add(army, sequence("opt", 25, 29));
     add(army, {"cmbOpt(1)"});
@@ -227,13 +239,15 @@ TEST(WindowLook, the_tab_key_goes_in_reading_order_through_everything)
     for (int row = 1; row <= 24; ++row) add(army, {QString{"chkMisc(%1)"}.arg(row), QString{"cmbMisc(%1)"}.arg(row)});
     EXPECT_EQ(tab_walk(screen), army);
 
-    std::vector<QString> combat{"TabStrip",    "txtTotalMod(0)",   "txtTotalMod(1)",   "cmdRollAll",      "cmdRoll(0)",
-                                "cmdRoll(1)",  "txtResult(0)",     "txtResult(1)",     "txtLoserCasualty", "txtVictorCasRoll",
-                                "cmdRollCasualty", "txtCasRollBonus", "chkPlus5",      "chkMinus5",       "cmdRollVictorCas",
-                                "txtVictorCasPercent", "txtVictorCas"};
+    std::vector<QString> combat{"TabStrip",         "txtTotalMod(0)",   "txtTotalMod(1)",   "cmdRollAll",
+                                "cmdRoll(0)",       "cmdRoll(1)",       "txtResult(0)",     "txtResult(1)",
+                                "txtLoserCasualty", "txtVictorCasRoll", "cmdRollCasualty",  "txtCasRollBonus",
+                                "chkPlus5",         "chkMinus5",        "cmdRollVictorCas", "txtVictorCasPercent",
+                                "txtVictorCas"};
     for (int const side : {0, 1}) {
         for (int row = 8 * side; row < 8 * side + 8; ++row) {
-            add(combat, {QString{"txtAName(%1)"}.arg(row), QString{"txtANum(%1)"}.arg(row), QString{"txtLoses(%1)"}.arg(row)});
+            add(combat,
+                {QString{"txtAName(%1)"}.arg(row), QString{"txtANum(%1)"}.arg(row), QString{"txtLoses(%1)"}.arg(row)});
         }
         add(combat, {QString{"cmdApplyCasualties(%1)"}.arg(side)});
     }
@@ -249,7 +263,8 @@ TEST(WindowLook, every_widget_that_takes_the_keyboard_has_a_name_of_its_own)
     for (QWidget* const widget : screen.window.findChildren<QWidget*>()) {
         bool const inside_another = qobject_cast<QComboBox*>(widget->parentWidget()) != nullptr;
         if (inside_another || (widget->focusPolicy() & Qt::TabFocus) == 0) continue;
-        EXPECT_FALSE(widget->accessibleName().isEmpty()) << widget->metaObject()->className() << " in " << widget->parentWidget()->metaObject()->className();
+        EXPECT_FALSE(widget->accessibleName().isEmpty())
+            << widget->metaObject()->className() << " in " << widget->parentWidget()->metaObject()->className();
         EXPECT_TRUE(names.insert(widget->accessibleName()).second) << widget->accessibleName().toStdString();
     }
     EXPECT_EQ(screen.named<QWidget>("txtLoses(10)").accessibleName(), "Side B, unit 3, loses");

@@ -133,14 +133,14 @@ TEST(Window, tabs_swap_the_armies)
     EXPECT_EQ(screen.form.ArmyB.Name, "Dwarves");
 }
 
-TEST(Window, save_and_load_through_the_menu)
+TEST(Window, save_and_load_through_the_menus_and_their_keys)
 {
     TemporaryFolder const folder;
     Screen screen;
     screen.desktop.path = folder.path() + "/elves.Army";
     auto& name = screen.named<QLineEdit>("txtArmyName");
     QTest::keyClicks(&name, "Elves");
-    screen.trigger("mnuSave");
+    QTest::keyClick(&name, Qt::Key_S, Qt::ControlModifier);
     screen.choose_tab(2);
     screen.trigger("mnuLoad");
     EXPECT_EQ(name.text(), "Elves");

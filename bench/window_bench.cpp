@@ -1,0 +1,161 @@
+// The window against an empty one of the same size, as whole processes, and what a key or a battle costs.
+
+#include "battle/random.h"
+#include "ui/main.h"
+#include "ui/qt/qt_desktop.h"
+#include "ui/qt/window.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QMainWindow>
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <ctime>
+#include <fstream>
+#include <string>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+using namespace warhost;
+
+constexpr QSize created_size{856, 640};
+
+/// A desktop that reads its list of modifiers where the bench says, and asks nothing.
+class BenchDesktop final : public QtDesktop {
+public:
+    explicit BenchDesktop(std::string folder) : folder_(std::move(folder)) {}
+    std::string program_directory() override { return folder_; }
+    Answer message_box(MessageBox const& box) override { return box.default_answer; }
+
+private:
+    std::string folder_;
+};
+
+struct Program {
+    BenchDesktop desktop;
+    Generator random{1};
+    Main form{desktop, random};
+    Window window{form, desktop};
+
+    explicit Program(std::string const& folder) : desktop(folder)
+    {
+        window.show();
+        QCoreApplication::processEvents();
+        window.grab();
+    }
+};
+
+/// What a child process does: shows a window, once, painted.
+int show_once(int argc, char** argv, std::string const& folder)
+{
+    QApplication const application{argc, argv};
+    if (!folder.empty()) {
+        Program const program{folder};
+        return 0;
+    }
+    QMainWindow window;
+    window.resize(created_size);
+    window.show();
+    QCoreApplication::processEvents();
+    window.grab();
+    return 0;
+}
+
+/// Processor time of a child in milliseconds; the best of `rounds`. folder: of the list, empty for the empty window.
+double child_time(std::string const& folder, int rounds)
+{
+    double best = 1e9;
+    for (int round = 0; round < rounds; ++round) {
+        pid_t const child = ::fork();
+        if (child == 0) {
+            ::execl("/proc/self/exe", "window_bench", "--show", folder.c_str(), nullptr);
+            ::_exit(1);
+        }
+        int status = 0;
+        rusage usage{};
+        ::wait4(child, &status, 0, &usage);
+        auto const milliseconds = [](timeval time) {
+            return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_usec) / 1e3;
+        };
+        best = std::min(best, milliseconds(usage.ru_utime) + milliseconds(usage.ru_stime));
+    }
+    return best;
+}
+
+std::string program_folder() { return std::string{BENCH_PROGRAM_FOLDER}; }
+
+/// A folder with a list of 300 rows of 500 values.
+std::string long_list_folder()
+{
+    std::string folder = "/tmp/warhost-bench-XXXXXX";
+    if (::mkdtemp(folder.data()) == nullptr) return {};
+    std::ofstream list{folder + "/modif.txt", std::ios::binary};
+    for (int row = 0; row < 300; ++row) list << "Row " << row << "\r\n0|1,500\r\n";
+    return folder;
+}
+
+void start(benchmark::State& state)
+{
+    constexpr int rounds = 10;
+    double window = 0;
+    double empty = 0;
+    double long_list = 0;
+    std::string const folder = long_list_folder();
+    for (auto _ : state) {
+        empty = child_time({}, rounds);
+        window = child_time(program_folder(), rounds);
+        long_list = child_time(folder, rounds);
+        state.SetIterationTime(window * 1e-3);
+    }
+    ::unlink((folder + "/modif.txt").c_str());
+    ::rmdir(folder.c_str());
+    state.counters["empty_ms"] = empty;
+    state.counters["window_ms"] = window;
+    state.counters["long_list_ms"] = long_list;
+    state.counters["window/empty"] = window / empty;
+    state.counters["long_list/window"] = long_list / window;
+}
+BENCHMARK(start)->UseManualTime()->Iterations(1);
+
+void measure(benchmark::State& state, int tab, void (*act)(Program&))
+{
+    Program program{program_folder()};
+    program.form.TabStrip.choose(tab);
+    double slowest = 0;
+    for (auto _ : state) {
+        std::clock_t const before = std::clock();
+        act(program);
+        QCoreApplication::processEvents();
+        program.window.repaint();
+        slowest = std::max(slowest, 1e3 * static_cast<double>(std::clock() - before) / CLOCKS_PER_SEC);
+    }
+    state.counters["slowest_ms"] = slowest;
+}
+
+void type_soldiers(benchmark::State& state)
+{
+    measure(state, tab_side_a, [](Program& program) { program.form.txtUnitNum(0).set_text("1234"); });
+}
+BENCHMARK(type_soldiers)->Unit(benchmark::kMillisecond)->Iterations(200);
+
+void roll_all(benchmark::State& state)
+{
+    measure(state, tab_combat, [](Program& program) { program.form.cmdRollAll.press(); });
+}
+BENCHMARK(roll_all)->Unit(benchmark::kMillisecond)->Iterations(200);
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    if (argc == 3 && std::string{argv[1]} == "--show") return show_once(argc, argv, argv[2]);
+    QApplication const application{argc, argv};
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
