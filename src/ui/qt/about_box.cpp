@@ -87,14 +87,16 @@ AboutBox::AboutBox(QString const& data_folder)
 void AboutBox::Form_Load()
 {
     setWindowTitle(QString{"About "} + program_title);
-    findChild<QLabel*>("lblVersion")->setText(QString{"Version %1.%2.%3"}.arg(version_major).arg(version_minor).arg(version_revision));
+    findChild<QLabel*>("lblVersion")
+        ->setText(QString{"Version %1.%2.%3"}.arg(version_major).arg(version_minor).arg(version_revision));
     findChild<QLabel*>("lblTitle")->setText(program_title);
 }
 
 void AboutBox::arrange(QString const& notice)
 {
     double const scale = std::max(1.0, QFontInfo{font()}.pixelSize() / base_font_pixels);
-    setFixedSize(QSizeF{client_width / base_twips_per_pixel * scale, client_height / base_twips_per_pixel * scale}.toSize());
+    setFixedSize(
+        QSizeF{client_width / base_twips_per_pixel * scale, client_height / base_twips_per_pixel * scale}.toSize());
 
     auto* const picIcon = label("picIcon");
     picIcon->setFixedSize(emblem_pixels, emblem_pixels);

@@ -6,7 +6,10 @@
 
 namespace warhost {
 
-QString help_contents_path(QString const& folder) { return QDir::toNativeSeparators(QDir{folder}.absoluteFilePath("contents.txt")); }
+QString help_contents_path(QString const& folder)
+{
+    return QDir::toNativeSeparators(QDir{folder}.absoluteFilePath("contents.txt"));
+}
 
 std::vector<HelpEntry> read_help_contents(QString const& folder)
 {

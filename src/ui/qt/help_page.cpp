@@ -52,7 +52,10 @@ void HelpPage::show_entry(HelpEntry const& entry)
     setSource(address, QTextDocument::HtmlResource);
 }
 
-void HelpPage::show_missing_manual() { setSource(QUrl{QString{"%1:manual"}.arg(notice_scheme)}, QTextDocument::HtmlResource); }
+void HelpPage::show_missing_manual()
+{
+    setSource(QUrl{QString{"%1:manual"}.arg(notice_scheme)}, QTextDocument::HtmlResource);
+}
 
 void HelpPage::show_unknown_topic(int topic)
 {
@@ -65,16 +68,19 @@ QString HelpPage::notice(QUrl const& name) const
         return plain_page("No manual", "The manual was not found: " + help_contents_path(folder_),
                           "<p>Everything else in the program works without it.</p>");
     }
-    auto const contents = QUrl::fromLocalFile(QDir{folder_}.absoluteFilePath("contents.html")).toString(QUrl::FullyEncoded);
-    return plain_page("No such topic", "There is no help topic " + QUrlQuery{name}.queryItemValue("number"),
-                      QString{"<p>The manual starts at its <a href=\"%1\">contents</a>.</p>"}.arg(contents.toHtmlEscaped()));
+    auto const contents =
+        QUrl::fromLocalFile(QDir{folder_}.absoluteFilePath("contents.html")).toString(QUrl::FullyEncoded);
+    return plain_page(
+        "No such topic", "There is no help topic " + QUrlQuery{name}.queryItemValue("number"),
+        QString{"<p>The manual starts at its <a href=\"%1\">contents</a>.</p>"}.arg(contents.toHtmlEscaped()));
 }
 
 QVariant HelpPage::loadResource(int type, QUrl const& name)
 {
     if (name.scheme() == notice_scheme) return notice(name);
     if (type == QTextDocument::HtmlResource && name.isLocalFile() && !QFileInfo{name.toLocalFile()}.isFile()) {
-        return plain_page("No such page", "The page was not found: " + QDir::toNativeSeparators(name.toLocalFile()), {});
+        return plain_page("No such page", "The page was not found: " + QDir::toNativeSeparators(name.toLocalFile()),
+                          {});
     }
     QVariant const resource = QTextBrowser::loadResource(type, name);
     return type == QTextDocument::ImageResource ? picture(resource.toByteArray()) : resource;
@@ -134,11 +140,12 @@ void HelpPage::follow_palette()
     QColor const link = readable_colour(palette().color(QPalette::Link), base, text);
     QColor const line = readable_colour(palette().color(QPalette::Mid), base, text);
     QColor const band = palette().color(QPalette::AlternateBase);
-    document()->setDefaultStyleSheet(QString{"p, li, td, th { line-height: 125%; }"
-                                             "a[href] { color: %1; }"
-                                             "table[border=\"1\"] { border-collapse: collapse; border-style: solid; border-color: %2; }"
-                                             "th { background-color: %3; }"}
-                                         .arg(link.name(), line.name(), band.name()));
+    document()->setDefaultStyleSheet(
+        QString{"p, li, td, th { line-height: 125%; }"
+                "a[href] { color: %1; }"
+                "table[border=\"1\"] { border-collapse: collapse; border-style: solid; border-color: %2; }"
+                "th { background-color: %3; }"}
+            .arg(link.name(), line.name(), band.name()));
 }
 
 void HelpPage::changeEvent(QEvent* event)

@@ -29,7 +29,11 @@ constexpr int row_padding = 7; // above and below a title together
 } // namespace
 
 HelpViewer::HelpViewer(QString const& folder, QWidget* parent)
-    : QMainWindow(parent), folder_(folder), tree_(new QTreeWidget), page_(new HelpPage{folder}), find_bar_(new FindBar{*page_})
+    : QMainWindow(parent),
+      folder_(folder),
+      tree_(new QTreeWidget),
+      page_(new HelpPage{folder}),
+      find_bar_(new FindBar{*page_})
 {
     setObjectName("helpViewer");
     setWindowTitle("Warhost Help");
@@ -93,7 +97,8 @@ void HelpViewer::show_topic(int topic)
         return;
     }
     auto const found = topic == 0 ? entries_.begin()
-                                  : std::find_if(entries_.begin(), entries_.end(), [&](HelpEntry const& each) { return each.topic == topic; });
+                                  : std::find_if(entries_.begin(), entries_.end(),
+                                                 [&](HelpEntry const& each) { return each.topic == topic; });
     if (found == entries_.end()) page_->show_unknown_topic(topic);
     else page_->show_entry(*found);
 }
@@ -111,7 +116,8 @@ void HelpViewer::make_actions()
     auto* const find_menu = menuBar()->addMenu("F&ind");
     auto* const view_menu = menuBar()->addMenu("&View");
 
-    auto const action = [this](QMenu* menu, char const* name, char const* caption, QList<QKeySequence> const& keys, auto act) {
+    auto const action = [this](QMenu* menu, char const* name, char const* caption, QList<QKeySequence> const& keys,
+                               auto act) {
         auto* const made = menu->addAction(caption);
         made->setObjectName(name);
         made->setShortcuts(keys);
@@ -126,21 +132,27 @@ void HelpViewer::make_actions()
         if (arrow != Qt::NoArrow) button->setArrowType(arrow);
     };
 
-    auto* const back = action(page_menu, "helpBack", "&Back", {QKeySequence{"Alt+Left"}, QKeySequence{Qt::Key_Back}}, [this] { page_->backward(); });
+    auto* const back = action(page_menu, "helpBack", "&Back", {QKeySequence{"Alt+Left"}, QKeySequence{Qt::Key_Back}},
+                              [this] { page_->backward(); });
     auto* const forward =
-        action(page_menu, "helpForward", "&Forward", {QKeySequence{"Alt+Right"}, QKeySequence{Qt::Key_Forward}}, [this] { page_->forward(); });
-    auto* const contents = action(page_menu, "helpHome", "&Contents", {QKeySequence{"Alt+Home"}}, [this] { show_topic(0); });
+        action(page_menu, "helpForward", "&Forward", {QKeySequence{"Alt+Right"}, QKeySequence{Qt::Key_Forward}},
+               [this] { page_->forward(); });
+    auto* const contents =
+        action(page_menu, "helpHome", "&Contents", {QKeySequence{"Alt+Home"}}, [this] { show_topic(0); });
     page_menu->addSeparator();
     action(page_menu, "helpClose", "C&lose", {QKeySequence{"Ctrl+W"}}, [this] { close(); });
 
-    auto* const find = action(find_menu, "helpFind", "&Find...", {QKeySequence{"Ctrl+F"}}, [this] { find_bar_->open(); });
-    action(find_menu, "helpFindNext", "Find &Next", {QKeySequence{"F3"}, QKeySequence{"Ctrl+G"}}, [this] { find_bar_->find_next(); });
+    auto* const find =
+        action(find_menu, "helpFind", "&Find...", {QKeySequence{"Ctrl+F"}}, [this] { find_bar_->open(); });
+    action(find_menu, "helpFindNext", "Find &Next", {QKeySequence{"F3"}, QKeySequence{"Ctrl+G"}},
+           [this] { find_bar_->find_next(); });
     action(find_menu, "helpFindPrevious", "Find &Previous", {QKeySequence{"Shift+F3"}, QKeySequence{"Ctrl+Shift+G"}},
            [this] { find_bar_->find_previous(); });
 
-    auto* const larger =
-        action(view_menu, "helpLarger", "&Larger Text", {QKeySequence{"Ctrl++"}, QKeySequence{"Ctrl+="}}, [this] { page_->zoom(1); });
-    auto* const smaller = action(view_menu, "helpSmaller", "&Smaller Text", {QKeySequence{"Ctrl+-"}}, [this] { page_->zoom(-1); });
+    auto* const larger = action(view_menu, "helpLarger", "&Larger Text",
+                                {QKeySequence{"Ctrl++"}, QKeySequence{"Ctrl+="}}, [this] { page_->zoom(1); });
+    auto* const smaller =
+        action(view_menu, "helpSmaller", "&Smaller Text", {QKeySequence{"Ctrl+-"}}, [this] { page_->zoom(-1); });
     action(view_menu, "helpNormal", "&Normal Size", {QKeySequence{"Ctrl+0"}}, [this] { page_->zoom_to_normal(); });
 
     on_bar(back, "Back", Qt::LeftArrow);
