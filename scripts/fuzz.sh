@@ -1,0 +1,20 @@
+#!/usr/bin/env bash
+# Runs every fuzz target for some seconds: scripts/fuzz.sh 600. What it learns goes to build/fuzz/learnt; what it finds
+# stops it and stays there.
+set -euo pipefail
+cd "$(dirname "$(readlink -f "$0")")/.."
+source scripts/install.sh
+
+install_packages "${packages_build[@]}" "${packages_check[@]}"
+build fuzz
+for target in army modifier_list rich_text; do
+    learnt=build/fuzz/learnt/$target
+    mkdir -p "$learnt"
+    printf 'Fuzzing %s for %s seconds\n' "$target" "$1"
+    if ! build/fuzz/bin/${target}_fuzz -max_total_time="$1" -max_len=70000 -timeout=5 -rss_limit_mb=2048 \
+        -artifact_prefix="$learnt/" "$learnt" "fuzz/corpus/$target" 2>"$learnt.log"; then
+        tail -40 "$learnt.log"
+        exit 1
+    fi
+    tail -1 "$learnt.log"
+done
