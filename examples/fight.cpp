@@ -4,6 +4,7 @@
 #include "ui/main.h"
 #include "ui/rich_text_reader.h"
 
+#include <charconv>
 #include <chrono>
 #include <cstdlib>
 #include <filesystem>
@@ -160,9 +161,16 @@ int main(int argument_count, char** arguments)
         std::cerr << "Usage: fight ARMY_A ARMY_B [SEED]\n";
         return EXIT_FAILURE;
     }
-    auto const clock = std::chrono::system_clock::now().time_since_epoch().count();
-    Generator generator{argument_count == 4 ? std::strtoull(arguments[3], nullptr, 10)
-                                            : static_cast<std::uint64_t>(clock)};
+    auto seed = static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch().count());
+    if (argument_count == 4) {
+        std::string_view const text = arguments[3];
+        auto const read = std::from_chars(text.data(), text.data() + text.size(), seed);
+        if (read.ec != std::errc{} || read.ptr != text.data() + text.size()) {
+            std::cerr << "SEED is a whole number from 0 to 18446744073709551615, not \"" << text << "\"\n";
+            return EXIT_FAILURE;
+        }
+    }
+    Generator generator{seed};
     Terminal terminal{arguments[0]};
     Main form{terminal, generator};
     form.Form_Load();
@@ -186,5 +194,5 @@ int main(int argument_count, char** arguments)
 
     form.TabStrip.choose(tab_combat);
     form.cmdSimulate.press();
-    return EXIT_SUCCESS;
+    return std::cout.flush() ? EXIT_SUCCESS : EXIT_FAILURE;
 }

@@ -6,10 +6,10 @@
 namespace warhost {
 
 /// The failure that `run` ends with; number 0 when it succeeds.
-template <class Run> Failure caught(Run&& run)
+template <class Run, class... Arguments> Failure caught(Run run, Arguments const&... arguments)
 {
     try {
-        run();
+        run(arguments...);
     } catch (Failure const& failure) {
         return failure;
     }

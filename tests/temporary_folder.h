@@ -18,8 +18,7 @@ public:
         folder_ = ::mkdtemp(name.data());
         std::filesystem::permissions(folder_, std::filesystem::perms{0755});
     }
-    TemporaryFolder(TemporaryFolder const&) = delete;
-    TemporaryFolder& operator=(TemporaryFolder const&) = delete;
+    TemporaryFolder(TemporaryFolder&&) = delete;
     ~TemporaryFolder() { std::filesystem::remove_all(folder_); }
 
     std::string path(std::string const& name = {}) const { return name.empty() ? folder_ : folder_ + "/" + name; }

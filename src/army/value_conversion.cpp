@@ -112,17 +112,10 @@ bool starts_with_at(std::string_view text, std::size_t at, std::string_view part
     return !part.empty() && text.substr(at, part.size()) == part;
 }
 
-std::string_view without_outer_blanks(std::string_view text)
-{
-    auto const first = text.find_first_not_of(" \t");
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(" \t") - first + 1);
-}
-
 /// The whole text as a number of the regional format; nothing when it is none.
 std::optional<double> regional_number(std::string_view text, NumberFormat const& format)
 {
-    text = without_outer_blanks(text);
+    text = without_outer(" \t", text);
     std::string plain;
     bool whole_part = true;
     for (std::size_t at = 0; at < text.size();) {
@@ -145,6 +138,13 @@ std::optional<double> regional_number(std::string_view text, NumberFormat const&
 }
 
 } // namespace
+
+std::string_view without_outer(std::string_view blanks, std::string_view text)
+{
+    auto const first = text.find_first_not_of(blanks);
+    if (first == std::string_view::npos) return {};
+    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+}
 
 double leading_number(std::string_view text)
 {
@@ -183,7 +183,7 @@ std::string plain_text(std::int64_t n) { return std::to_string(n); }
 
 std::string general_text(float value, NumberFormat const& format)
 {
-    if (value == 0) return "0";
+    if (value == 0 || !std::isfinite(value)) return "0";
     float const size = std::fabs(value);
     bool const plain = size >= 1e-5F && size < 1e15F;
     std::array<char, 64> buffer{};

@@ -28,14 +28,17 @@ std::int32_t TextToLong(std::string_view text);
 /// the finite single-precision numbers. Never fails.
 float TextToSingle(std::string_view text, NumberFormat const& format);
 
+/// text less the characters of `blanks` at its ends.
+std::string_view without_outer(std::string_view blanks, std::string_view text);
+
 /// "+0", "+5", "-2".
 std::string SignedText(std::int64_t n);
 
 /// Plain decimal digits, "-" in front of a negative number.
 std::string plain_text(std::int64_t n);
 
-/// The shortest text that reads back as value, with the regional decimal separator: "1", "2.5". An exponent appears
-/// below 1E-5 and from 1E+15 on.
+/// The fewest decimals that read back as value, with the regional decimal separator: "1", "2.5". An exponent appears
+/// below 1E-5 and from 1E+15 on. What is no finite number gives "0".
 std::string general_text(float value, NumberFormat const& format);
 
 /// A number of tenths with exactly one decimal: 167 gives "16.7".

@@ -13,7 +13,8 @@ namespace warhost {
 namespace {
 
 constexpr int die_sides = 20;
-constexpr int read_limit = 32000; // of a result read from the screen
+constexpr double normal_95 = 1.96; // standard deviations on either side that hold 95 in a hundred
+constexpr int read_limit = 32000;  // of a result read from the screen
 constexpr int highest_bonus = casualty_roll_bonus(outcome_table.back().last);
 
 /// The two boxes as bits.
@@ -131,10 +132,6 @@ std::array<std::int64_t, highest_share + 1> Tally::histogram(int Index) const
     return bars;
 }
 
-namespace {
-constexpr double normal_95 = 1.96; // standard deviations on either side that hold 95 in a hundred
-}
-
 double Tally::casualty_margin(int Index) const
 {
     auto const number = static_cast<double>(battles());
@@ -185,7 +182,7 @@ template <class Source> void Simulation::run(Source& source, std::int32_t battle
 {
     auto const roll = [&] { return static_cast<unsigned>(roll_d20(source)); };
     auto const share_of = [&](Meeting meeting, int low, int span) {
-        if (meeting.tie) [[unlikely]] {
+        if (meeting.tie) [[unlikely]] { // the evaluation draws one percentage, the roll for it another
             roll_between(source, tie_percent, tie_percent);
             return roll_between(source, tie_percent, tie_percent);
         }
@@ -193,6 +190,8 @@ template <class Source> void Simulation::run(Source& source, std::int32_t battle
     };
     for (std::int32_t fought = 0; fought < battles; ++fought) {
         Boxes boxes = 0;
+        // A tie of the two results evaluates the victor's roll that still stands there from before, and draws the
+        // percentage, which can only be 100. Side A's new result meets Side B's old one first.
         auto const evaluate_shown_roll = [&] {
             boxes = boxes_after_shown[shown_index(screen_.victor_roll, boxes)];
             roll_between(source, tie_percent, tie_percent);

@@ -116,7 +116,8 @@ public:
             count = elements == 0 ? 0 : std::min<std::uint64_t>(count, bytes_.size() + 1) * elements;
         }
         std::size_t const smallest = element == Element::number ? 4 : 2;
-        if (count > (bytes_.size() - at_) / smallest) fail(field, "more elements than the file has room for");
+        if (count > (bytes_.size() - at_) / smallest)
+            fail(field + " claims more elements than there are bytes left for");
         if (element == Element::number) {
             take(field, static_cast<std::size_t>(count) * smallest);
         } else {
@@ -129,17 +130,18 @@ public:
 private:
     std::string_view take(std::string const& field, std::size_t size)
     {
-        if (size > bytes_.size() - at_) fail(field, std::to_string(size) + (size == 1 ? " byte" : " bytes"));
+        if (size > bytes_.size() - at_)
+            fail(std::to_string(size) + (size == 1 ? " byte of " : " bytes of ") + field + " should follow");
         auto const taken = bytes_.substr(at_, size);
         at_ += size;
         return taken;
     }
 
-    [[noreturn]] void fail(std::string const& field, std::string const& expected) const
+    /// what: why the bytes do not do, from the place that has been read to on.
+    [[noreturn]] void fail(std::string const& what) const
     {
-        throw failure_of(Fault::file_too_short, "it ends at byte " + std::to_string(bytes_.size()) + "; " + expected +
-                                                    " of " + field + " were expected from byte " + std::to_string(at_) +
-                                                    " on");
+        throw failure_of(Fault::file_too_short, "it ends at byte " + std::to_string(bytes_.size()) + ", but " + what +
+                                                    " at byte " + std::to_string(at_));
     }
 
     std::string_view bytes_;

@@ -16,21 +16,6 @@ constexpr std::array<char32_t, 32> upper_controls{
 };
 constexpr unsigned first_upper_control = 0x80;
 
-void append_utf8(std::string& text, char32_t character)
-{
-    auto const tail = [&](unsigned shift) { text += static_cast<char>(0x80 | ((character >> shift) & 0x3F)); };
-    if (character < 0x80) {
-        text += static_cast<char>(character);
-    } else if (character < 0x800) {
-        text += static_cast<char>(0xC0 | (character >> 6));
-        tail(0);
-    } else {
-        text += static_cast<char>(0xE0 | (character >> 12));
-        tail(6);
-        tail(0);
-    }
-}
-
 /// The character that starts at text[at], and at moved behind it; nothing when no well-formed one starts there.
 std::optional<char32_t> next_character(std::string_view text, std::size_t& at)
 {
@@ -76,6 +61,15 @@ std::string code_point_name(char32_t character)
 
 } // namespace
 
+std::string utf8_of(char32_t character)
+{
+    auto const tail = [&](unsigned shift) { return static_cast<char>(0x80 | ((character >> shift) & 0x3F)); };
+    if (character < 0x80) return {static_cast<char>(character)};
+    if (character < 0x800) return {static_cast<char>(0xC0 | (character >> 6)), tail(0)};
+    if (character < 0x10000) return {static_cast<char>(0xE0 | (character >> 12)), tail(6), tail(0)};
+    return {static_cast<char>(0xF0 | (character >> 18)), tail(12), tail(6), tail(0)};
+}
+
 std::string utf8_of_windows_1252(std::string_view bytes)
 {
     std::string text;
@@ -83,7 +77,7 @@ std::string utf8_of_windows_1252(std::string_view bytes)
     for (char const c : bytes) {
         unsigned const byte = static_cast<unsigned char>(c);
         bool const mapped = byte >= first_upper_control && byte < 0xA0;
-        append_utf8(text, mapped ? upper_controls[byte - first_upper_control] : byte);
+        text += utf8_of(mapped ? upper_controls[byte - first_upper_control] : byte);
     }
     return text;
 }

@@ -28,13 +28,6 @@ std::optional<std::string_view> next_line(std::string_view& rest)
     return line;
 }
 
-std::string_view without_outer_blanks(std::string_view text)
-{
-    auto const first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
 } // namespace
 
 std::vector<ModifierEntry> parse_modifier_list(std::string_view bytes)
@@ -48,7 +41,7 @@ std::vector<ModifierEntry> parse_modifier_list(std::string_view bytes)
         if (!values_line) break;
 
         ModifierEntry entry;
-        entry.name = without_outer_blanks(*name);
+        entry.name = without_outer(" ", *name);
         std::string_view values = *values_line;
         if (auto const bar = values.find('|'); bar != std::string_view::npos) {
             entry.help_topic = TextToInt(values.substr(0, bar));

@@ -17,22 +17,11 @@ void require(bool succeeded)
     if (!succeeded) throw std::system_error{errno, std::generic_category()};
 }
 
-/// A new file in a folder. It has no name until it is put in place, so that nothing of it stays behind whatever happens
-/// before; where the system knows no such files it has a name of its own from the start.
+/// A new file in a folder. Nameless, nothing of it stays behind whatever happens before it is put in place; but not
+/// every file system knows such files, and not every system lets them have a name afterwards.
 class NewFile {
-    static constexpr char const* open_files = "/proc/self/fd"; // a nameless file gets its name through it
-
 public:
-    explicit NewFile(std::filesystem::path folder) : folder_(std::move(folder))
-    {
-        if (::access(open_files, F_OK) == 0) {
-            descriptor_ = ::open(folder_.c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, 0666);
-            bool const unknown = errno == EOPNOTSUPP || errno == EISDIR || errno == EINVAL || errno == ENOENT;
-            require(descriptor_ >= 0 || unknown);
-        }
-        if (descriptor_ >= 0) return;
-        give_name([&] { return (descriptor_ = ::open(name_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666)); });
-    }
+    explicit NewFile(std::filesystem::path folder) : folder_(std::move(folder)) {}
     NewFile(NewFile const&) = delete;
     NewFile& operator=(NewFile const&) = delete;
     ~NewFile()
@@ -41,7 +30,37 @@ public:
         if (!name_.empty()) ::unlink(name_.c_str());
     }
 
-    void set_permissions(mode_t mode) const { require(::fchmod(descriptor_, mode) == 0); }
+    /// False where nameless files are unknown.
+    bool open_nameless()
+    {
+        descriptor_ = ::open(folder_.c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, 0666);
+        bool const unknown = errno == EOPNOTSUPP || errno == EISDIR || errno == EINVAL || errno == ENOENT;
+        require(descriptor_ >= 0 || unknown);
+        return descriptor_ >= 0;
+    }
+
+    void open_named()
+    {
+        auto const create = [&] {
+            descriptor_ = ::open(name_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+            return descriptor_ >= 0;
+        };
+        require(find_name(create));
+    }
+
+    /// Group and permissions of the file to be replaced, as far as the system lets them be given.
+    void take_over_rights(struct stat const& old) const
+    {
+        struct stat own = {};
+        require(::fstat(descriptor_, &own) == 0);
+        constexpr auto unchanged = static_cast<uid_t>(-1);
+        mode_t mode = old.st_mode & 07777U;
+        if (own.st_gid != old.st_gid && ::fchown(descriptor_, unchanged, old.st_gid) != 0) {
+            mode &= ~static_cast<mode_t>(S_IRWXG); // meant for another group
+        }
+        if ((own.st_mode & 07777U) == mode) return;
+        require(::fchmod(descriptor_, mode) == 0 || errno == EPERM || errno == ENOTSUP);
+    }
 
     void write(std::string_view bytes) const
     {
@@ -54,40 +73,39 @@ public:
 
     void flush() const { require(::fsync(descriptor_) == 0); }
 
-    void put_in_place(std::filesystem::path const& target)
+    /// False where a nameless file cannot have a name; nothing has happened then.
+    bool put_in_place(std::filesystem::path const& target)
     {
         if (name_.empty()) {
-            if (link_to(target) == 0) return close();
-            require(errno == EEXIST);
-            give_name([&] { return link_to(name_); });
+            if (link_to(target)) return true;
+            if (errno != EEXIST || !find_name([&] { return link_to(name_); })) return false;
         }
-        close();
+        require(::close(std::exchange(descriptor_, -1)) == 0);
         require(::rename(name_.c_str(), target.c_str()) == 0);
         name_.clear();
+        return true;
     }
 
 private:
-    /// Calls make with one unused name after another in name_ until it succeeds.
-    template <class Make> void give_name(Make make)
+    /// Puts one unused name after another into name_ until make succeeds; false, and no name, when it fails otherwise.
+    template <class Make> bool find_name(Make make)
     {
         for (int attempt = 0;; ++attempt) {
             name_ = folder_ / (".warhost-" + std::to_string(::getpid()) + "-" + std::to_string(attempt) + ".tmp");
-            if (make() >= 0) return;
+            if (make()) return true;
             int const cause = errno;
             if (cause == EEXIST) continue;
             name_.clear(); // it names no file of ours
             errno = cause;
-            require(false);
+            return false;
         }
     }
 
-    int link_to(std::filesystem::path const& path) const
+    bool link_to(std::filesystem::path const& path) const
     {
-        std::string const self = open_files + ("/" + std::to_string(descriptor_));
-        return ::linkat(AT_FDCWD, self.c_str(), AT_FDCWD, path.c_str(), AT_SYMLINK_FOLLOW);
+        std::string const self = "/proc/self/fd/" + std::to_string(descriptor_);
+        return ::linkat(AT_FDCWD, self.c_str(), AT_FDCWD, path.c_str(), AT_SYMLINK_FOLLOW) == 0;
     }
-
-    void close() { require(::close(std::exchange(descriptor_, -1)) == 0); }
 
     std::filesystem::path folder_;
     std::filesystem::path name_; // empty: none
@@ -111,12 +129,17 @@ void replace_durably(std::filesystem::path const& target, std::string_view bytes
     auto const folder = target.has_parent_path() ? target.parent_path() : std::filesystem::path{"."};
     // A file marked read-only stays, although a rename could replace it.
     if (::faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) != 0) require(errno == ENOENT);
-    NewFile file{folder};
-    struct stat existing = {};
-    if (::stat(target.c_str(), &existing) == 0) file.set_permissions(existing.st_mode & 07777U);
-    file.write(bytes);
-    file.flush();
-    file.put_in_place(target);
+    struct stat old = {};
+    bool const replaces = ::stat(target.c_str(), &old) == 0;
+    for (bool const nameless : {true, false}) {
+        NewFile file{folder};
+        if (nameless && !file.open_nameless()) continue;
+        if (!nameless) file.open_named();
+        if (replaces) file.take_over_rights(old);
+        file.write(bytes);
+        file.flush();
+        if (file.put_in_place(target)) break;
+    }
     flush_folder(folder);
 }
 

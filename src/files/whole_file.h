@@ -1,4 +1,4 @@
-// Reading a file whole, and replacing one so that its path always holds either the old file or the new one.
+// Reading a file, and replacing one so that its path always holds either the old file or the new one.
 #pragma once
 
 #include <cstddef>
@@ -13,7 +13,8 @@ bool FileExists(std::string const& path);
 /// No army and no list comes near this many bytes; what a file holds beyond them is not read.
 inline constexpr std::size_t most_bytes_read = std::size_t{64} << 20U;
 
-/// The bytes of an ordinary file, opened for reading only. Throws a Failure that names the path and the cause.
+/// The bytes of an ordinary file, up to most_bytes_read of them, opened for reading only. Throws a Failure that names
+/// the path and the cause.
 std::string read_file(std::string const& path);
 
 /// Puts bytes in place of the file at path, or makes it: written to a temporary file in the same folder, flushed to

@@ -23,10 +23,10 @@ void Main::CurArmy_Save()
 void Main::CurArmy_Update()
 {
     Updating = true;
-    quiet_step([&] { txtArmyName.set_text(CurArmy.Name); });
+    txtArmyName.set_text(CurArmy.Name);
     for (int row = 0; row < unit_rows; ++row) {
-        quiet_step([&] { txtUnitType(row).set_text(CurArmy.UnitType.at(row)); });
-        quiet_step([&] { txtUnitNum(row).set_text(plain_text(CurArmy.UnitNum.at(row))); });
+        txtUnitType(row).set_text(CurArmy.UnitType.at(row));
+        txtUnitNum(row).set_text(plain_text(CurArmy.UnitNum.at(row)));
     }
     for (auto& [k, button] : opt) button.set_selected(CurArmy.Opt.at(k) != 0);
     for (auto& [i, result] : cmbOpt) result.set_text(SignedText(CurArmy.OptValue.at(i)));
@@ -37,13 +37,13 @@ void Main::CurArmy_Update()
     cmbLevel.set_text(general_text(CurArmy.Level, desktop_.number_format()));
     quiet_step([&] { CalcArmyTotal(); });
     CurArmy_Save();
-    show_totals();
+    txtTotal.set_text(plain_text(CurArmy.TotalMod));
+    show_total_modifiers();
     Updating = false;
 }
 
-void Main::show_totals()
+void Main::show_total_modifiers()
 {
-    txtTotal.set_text(plain_text(CurArmy.TotalMod));
     txtTotalMod(0).set_text(plain_text(ArmyA.TotalMod));
     txtTotalMod(1).set_text(plain_text(ArmyB.TotalMod));
 }
@@ -98,6 +98,18 @@ void Main::opt_Click(int Index)
     CalcTotal();
 }
 
+void Main::cmbOpt_Change(int /*Index*/) { CalcTotal(); }
+
+void Main::cmbOpt_Click(int /*Index*/) { CalcTotal(); }
+
+void Main::cmbLevel_Change() { CalcTotal(); }
+
+void Main::cmbLevel_Click() { CalcTotal(); }
+
+void Main::cmbMisc_Change(int /*Index*/) { CalcTotal(); }
+
+void Main::cmbMisc_Click(int /*Index*/) { CalcTotal(); }
+
 void Main::chkMisc_Click(int Index)
 {
     CalcTotal();
@@ -129,8 +141,9 @@ void Main::CalcTotal()
     quiet_step([&] { CalcArmyTotal(); });
     quiet_step([&] { CalcOtherTotal(tab); });
     CurArmy_Save();
-    show_totals();
+    txtTotal.set_text(plain_text(CurArmy.TotalMod));
     txtTotalNo.set_text(plain_text(CurArmy.TotalNo));
+    show_total_modifiers();
     lblOtherLevel.set_caption(general_text(CurArmy.OtherLevel, format));
     lblLevelBonus.set_caption(SignedText(CurArmy.LevelBonus));
 }

@@ -35,7 +35,7 @@ void Main::cmdRoll_Click(int Index)
     txtResult(Index).set_text(plain_text(die + TextToInt(txtTotalMod(Index).text())));
 }
 
-void Main::txtResult_Change()
+void Main::txtResult_Change(int /*Index*/)
 {
     constexpr std::array winner_captions{"Side A", "Side B", "Tie!"};
     battle.ResultA = TextToInt(txtResult(0).text());
@@ -112,14 +112,14 @@ void Main::txtVictorCas_Change() { spread_losses(victor_index(battle.Winner), Te
 void Main::spread_losses(int Index, int percent)
 {
     for (int row = 0; row < unit_rows; ++row) {
-        txtLoses(unit_rows * Index + row).set_text(plain_text(row_loss(record_of(Index).UnitNum.at(row), percent)));
+        txtLoses(unit_rows * Index + row).set_text(plain_text(row_loss(of_side(Index + 1).UnitNum.at(row), percent)));
     }
 }
 
 void Main::cmdApplyCasualties_Click(int Index)
 {
-    Army& own = record_of(Index);
-    Army& other = record_of(1 - Index);
+    Army& own = of_side(Index + 1);
+    Army& other = of_side(2 - Index);
     Army copy = own;
     for (int row = 0; row < unit_rows; ++row) {
         int const field = unit_rows * Index + row;
@@ -138,8 +138,7 @@ void Main::cmdApplyCasualties_Click(int Index)
     CurArmy = other;
     quiet_step([&] { CalcArmyTotal(); });
     other = CurArmy;
-    txtTotalMod(0).set_text(plain_text(ArmyA.TotalMod));
-    txtTotalMod(1).set_text(plain_text(ArmyB.TotalMod));
+    show_total_modifiers();
 }
 
 } // namespace warhost

@@ -325,7 +325,6 @@ public:
     }
 
     bool contains(int index) const { return elements_.contains(index); }
-    int lowest() const { return elements_.begin()->first; }
     int highest() const { return elements_.rbegin()->first; }
 
     auto begin() { return elements_.begin(); }

@@ -40,13 +40,17 @@ void Main::connect_handlers()
     for (auto& [Index, button] : opt) {
         button.Click = [this, Index = Index] { opt_Click(Index); };
     }
-    for (auto& [Index, result] : cmbOpt) result.Change = result.Click = [this] { CalcTotal(); };
-    cmbLevel.Change = cmbLevel.Click = [this] { CalcTotal(); };
+    for (auto& [Index, result] : cmbOpt) {
+        result.Change = [this, Index = Index] { cmbOpt_Change(Index); };
+        result.Click = [this, Index = Index] { cmbOpt_Click(Index); };
+    }
+    cmbLevel.Change = [this] { cmbLevel_Change(); };
+    cmbLevel.Click = [this] { cmbLevel_Click(); };
 
     cmdRollAll.Click = [this] { cmdRollAll_Click(); };
     for (int const Index : {0, 1}) {
         cmdRoll(Index).Click = [this, Index] { cmdRoll_Click(Index); };
-        txtResult(Index).Change = [this] { txtResult_Change(); };
+        txtResult(Index).Change = [this, Index] { txtResult_Change(Index); };
         cmdApplyCasualties(Index).Click = [this, Index] { cmdApplyCasualties_Click(Index); };
     }
     txtLoserCasualty.Change = [this] { txtLoserCasualty_Change(); };

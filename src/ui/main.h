@@ -2,6 +2,7 @@
 #pragma once
 
 #include "army/armies.h"
+#include "army/modifier_options.h"
 #include "battle/battle_state.h"
 #include "battle/random.h"
 #include "ui/desktop.h"
@@ -80,14 +81,14 @@ public:
     TextLabel Label14{"Label14", "gives"};
     TextLabel lblRatioBonus{"lblRatioBonus", "+0"};
 
-    Frame FrameDiscipline{"FrameDiscipline", "Discipline"};
-    Frame Frame1{"Frame1", "Equipment Quality"};
-    Frame Frame2{"Frame2", "Armor Class"};
-    Frame Frame3{"Frame3", "Base Attack Bonus"};
-    Frame Frame4{"Frame4", "Leadership"};
-    Frame Frame5{"Frame5", "Magic"};
-    Frame Frame10{"Frame10", "Experience"};
-    Frame Frame11{"Frame11", "Avg Move"};
+    Frame FrameDiscipline{"FrameDiscipline", std::string{category_captions[0]}};
+    Frame Frame1{"Frame1", std::string{category_captions[1]}};
+    Frame Frame2{"Frame2", std::string{category_captions[2]}};
+    Frame Frame3{"Frame3", std::string{category_captions[3]}};
+    Frame Frame4{"Frame4", std::string{category_captions[4]}};
+    Frame Frame5{"Frame5", std::string{category_captions[5]}};
+    Frame Frame10{"Frame10", std::string{category_captions[6]}};
+    Frame Frame11{"Frame11", std::string{category_captions[7]}};
     ControlArray<OptionButton> opt{"opt"};
     ControlArray<ComboBox> cmbOpt{"cmbOpt", 0, category_count - 1, "0"};
     TextLabel Label15{"Label15", "Average Troop Level:"};
@@ -175,6 +176,12 @@ public:
     void txtUnitType_Change(int Index);
     void txtUnitNum_Change(int Index);
     void opt_Click(int Index);
+    void cmbOpt_Change(int Index);
+    void cmbOpt_Click(int Index);
+    void cmbLevel_Change();
+    void cmbLevel_Click();
+    void cmbMisc_Change(int Index);
+    void cmbMisc_Click(int Index);
     void chkMisc_Click(int Index);
     void CalcTotal();
     void CalcTroopRatio(int Side);
@@ -188,7 +195,8 @@ public:
 
     void cmdRollAll_Click();
     void cmdRoll_Click(int Index);
-    void txtResult_Change();
+    /// Reads both results, whichever was set.
+    void txtResult_Change(int Index);
     void txtLoserCasualty_Change();
     void cmdRollCasualty_Click();
     void txtVictorCasRoll_Change();
@@ -242,11 +250,10 @@ private:
     bool army_tab_selected();
     /// Rows that the record can hold: none while check boxes and values do not come in equal numbers.
     int counted_misc_rows();
-    void show_totals();
+    void show_total_modifiers();
     bool refused_on_combat_tab();
     int effective_casualty_bonus();
     void spread_losses(int Index, int percent);
-    Army& record_of(int Index) { return Index == 0 ? ArmyA : ArmyB; }
 
     std::array<OptionGroup, category_count> option_groups_;
     Desktop& desktop_;

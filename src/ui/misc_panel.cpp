@@ -13,17 +13,11 @@ std::string list_path(std::string const& directory)
     return directory + static_cast<char>(std::filesystem::path::preferred_separator) + "modif.txt";
 }
 
-std::string without_outer_blanks(std::string const& text)
-{
-    auto const first = text.find_first_not_of(' ');
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
 std::string caption_of(ModifierEntry const& entry)
 {
     std::string const range =
         entry.low == entry.high ? SignedText(entry.low) : SignedText(entry.low) + " to " + SignedText(entry.high);
-    return without_outer_blanks(entry.name + " (" + range + ")");
+    return std::string{without_outer(" ", entry.name + " (" + range + ")")};
 }
 
 } // namespace
@@ -38,7 +32,8 @@ void Main::ReadMiscMod()
     for (auto const& entry : entries) {
         ++row;
         ComboBox& value = cmbMisc.create(row);
-        value.Change = value.Click = [this] { CalcTotal(); };
+        value.Change = [this, row] { cmbMisc_Change(row); };
+        value.Click = [this, row] { cmbMisc_Click(row); };
         value.place = cmbMisc(0).place;
         value.help_topic = entry.help_topic;
         for (int k = entry.low; k <= entry.high; ++k) value.add_item(SignedText(k));

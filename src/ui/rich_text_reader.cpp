@@ -27,7 +27,7 @@ struct GroupState {
     Destination destination = Destination::text;
 };
 
-struct Control {
+struct ControlWord {
     std::string_view word;
     std::optional<int> number;
 
@@ -42,17 +42,8 @@ std::optional<unsigned> hex_digit(char c)
 {
     constexpr std::string_view digits = "0123456789abcdef";
     auto const value = digits.find(c >= 'A' && c <= 'F' ? static_cast<char>(c - 'A' + 'a') : c);
-    if (value == digits.npos) return {};
+    if (value == std::string_view::npos) return {};
     return static_cast<unsigned>(value);
-}
-
-std::string utf8_of(char32_t character)
-{
-    auto const tail = [&](unsigned shift) { return static_cast<char>(0x80 | ((character >> shift) & 0x3F)); };
-    if (character < 0x80) return {static_cast<char>(character)};
-    if (character < 0x800) return {static_cast<char>(0xC0 | (character >> 6)), tail(0)};
-    if (character < 0x10000) return {static_cast<char>(0xE0 | (character >> 12)), tail(6), tail(0)};
-    return {static_cast<char>(0xF0 | (character >> 18)), tail(12), tail(6), tail(0)};
 }
 
 class Reader {
@@ -160,11 +151,11 @@ private:
         shown(utf8_of_windows_1252({&byte, 1}));
     }
 
-    Control read_control()
+    ControlWord read_control()
     {
         std::size_t const start = at_;
         while (at_ < text_.size() && is_letter(text_[at_])) ++at_;
-        Control control{text_.substr(start, at_ - start), {}};
+        ControlWord control{text_.substr(start, at_ - start), {}};
 
         bool const minus = at_ + 1 < text_.size() && text_[at_] == '-' && is_digit(text_[at_ + 1]);
         if (minus) ++at_;
@@ -182,32 +173,32 @@ private:
     {
         struct Row {
             std::string_view word;
-            void (*act)(Reader&, Control const&);
+            void (*act)(Reader&, ControlWord const&);
         };
         static constexpr std::array rows{
-            Row{"b", [](Reader& r, Control const& c) { r.state_.bold = c.number_or(1) != 0; }},
-            Row{"plain", [](Reader& r, Control const&) { r.reset_look(); }},
-            Row{"par", [](Reader& r, Control const&) { r.end_paragraph(); }},
-            Row{"line", [](Reader& r, Control const&) { r.end_paragraph(); }},
-            Row{"tab", [](Reader& r, Control const&) { r.shown("\t"); }},
-            Row{"f", [](Reader& r, Control const& c) { r.state_.font = c.number_or(0); }},
-            Row{"fs", [](Reader& r, Control const& c) { r.state_.half_points = std::max(1, c.number_or(24)); }},
-            Row{"cf", [](Reader& r, Control const& c) { r.state_.colour = c.number_or(0); }},
-            Row{"deff", [](Reader& r, Control const& c) { r.state_.font = r.default_font_ = c.number_or(0); }},
-            Row{"u", [](Reader& r, Control const& c) { r.unicode(c.number_or(0)); }},
-            Row{"uc", [](Reader& r, Control const& c) { r.state_.substitutes = std::max(0, c.number_or(1)); }},
-            Row{"bin", [](Reader& r, Control const& c) { r.skip_bytes(c.number_or(0)); }},
-            Row{"red", [](Reader& r, Control const& c) { r.colour_part(&RichTextColour::red, c); }},
-            Row{"green", [](Reader& r, Control const& c) { r.colour_part(&RichTextColour::green, c); }},
-            Row{"blue", [](Reader& r, Control const& c) { r.colour_part(&RichTextColour::blue, c); }},
-            Row{"fonttbl", [](Reader& r, Control const&) { r.enter(Destination::font_table); }},
-            Row{"colortbl", [](Reader& r, Control const&) { r.enter(Destination::colour_table); }},
-            Row{"stylesheet", [](Reader& r, Control const&) { r.enter(Destination::skipped); }},
-            Row{"info", [](Reader& r, Control const&) { r.enter(Destination::skipped); }},
-            Row{"pict", [](Reader& r, Control const&) { r.enter(Destination::skipped); }},
+            Row{"b", [](Reader& r, ControlWord const& c) { r.state_.bold = c.number_or(1) != 0; }},
+            Row{"plain", [](Reader& r, ControlWord const&) { r.reset_look(); }},
+            Row{"par", [](Reader& r, ControlWord const&) { r.end_paragraph(); }},
+            Row{"line", [](Reader& r, ControlWord const&) { r.end_paragraph(); }},
+            Row{"tab", [](Reader& r, ControlWord const&) { r.shown("\t"); }},
+            Row{"f", [](Reader& r, ControlWord const& c) { r.state_.font = c.number_or(0); }},
+            Row{"fs", [](Reader& r, ControlWord const& c) { r.state_.half_points = std::max(1, c.number_or(24)); }},
+            Row{"cf", [](Reader& r, ControlWord const& c) { r.state_.colour = c.number_or(0); }},
+            Row{"deff", [](Reader& r, ControlWord const& c) { r.state_.font = r.default_font_ = c.number_or(0); }},
+            Row{"u", [](Reader& r, ControlWord const& c) { r.unicode(c.number_or(0)); }},
+            Row{"uc", [](Reader& r, ControlWord const& c) { r.state_.substitutes = std::max(0, c.number_or(1)); }},
+            Row{"bin", [](Reader& r, ControlWord const& c) { r.skip_bytes(c.number_or(0)); }},
+            Row{"red", [](Reader& r, ControlWord const& c) { r.colour_part(&RichTextColour::red, c); }},
+            Row{"green", [](Reader& r, ControlWord const& c) { r.colour_part(&RichTextColour::green, c); }},
+            Row{"blue", [](Reader& r, ControlWord const& c) { r.colour_part(&RichTextColour::blue, c); }},
+            Row{"fonttbl", [](Reader& r, ControlWord const&) { r.enter(Destination::font_table); }},
+            Row{"colortbl", [](Reader& r, ControlWord const&) { r.enter(Destination::colour_table); }},
+            Row{"stylesheet", [](Reader& r, ControlWord const&) { r.enter(Destination::skipped); }},
+            Row{"info", [](Reader& r, ControlWord const&) { r.enter(Destination::skipped); }},
+            Row{"pict", [](Reader& r, ControlWord const&) { r.enter(Destination::skipped); }},
         };
 
-        Control const control = read_control();
+        ControlWord const control = read_control();
         auto const* const row =
             std::find_if(rows.begin(), rows.end(), [&](Row const& each) { return each.word == control.word; });
         if (row != rows.end()) row->act(*this, control);
@@ -321,7 +312,7 @@ private:
         if (name.size() + character.size() <= longest_font_name) name += character;
     }
 
-    void colour_part(std::uint8_t RichTextColour::*part, Control const& control)
+    void colour_part(std::uint8_t RichTextColour::*part, ControlWord const& control)
     {
         if (state_.destination != Destination::colour_table) return;
         if (!colour_) colour_.emplace();

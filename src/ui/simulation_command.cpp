@@ -9,7 +9,7 @@ namespace warhost {
 
 namespace {
 
-constexpr std::int32_t battles_between_looks = 1 << 20; // some milliseconds
+constexpr std::int32_t batch_size = 1 << 20; // battles; some milliseconds
 
 /// Puts a text in place that was there already in the battles' eyes: its handler has run.
 void set_without_change(TextBox& box, int value)
@@ -31,9 +31,9 @@ void Main::cmdSimulate_Click()
                           TextToInt(txtTotalMod(1).text()),
                           {TextToInt(txtResult(1).text()), TextToInt(txtVictorCasRoll.text())}};
     for (std::int32_t left = battles - 1; left > 0;) {
-        std::int32_t const some = std::min(left, battles_between_looks);
-        simulation.fight(random_, some);
-        left -= some;
+        std::int32_t const batch = std::min(left, batch_size);
+        simulation.fight(random_, batch);
+        left -= batch;
         desktop_.show_progress(battles - left, battles);
     }
     if (battles > 1) {

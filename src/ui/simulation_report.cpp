@@ -34,7 +34,8 @@ namespace {
 /// Two significant digits, rounded up so that the margin holds.
 std::string margin_text(double margin, NumberFormat const& format)
 {
-    int const decimals = std::clamp(1 - static_cast<int>(std::floor(std::log10(std::max(margin, 1e-9)))), 0, 9);
+    if (margin == 0) return "0";
+    int const decimals = std::clamp(1 - static_cast<int>(std::floor(std::log10(margin))), 0, 9);
     double const scale = std::pow(10, decimals);
     std::array<char, 32> buffer{};
     auto* const end = std::to_chars(buffer.begin(), buffer.end(), std::ceil(margin * scale) / scale,
@@ -49,7 +50,8 @@ std::string margin_text(double margin, NumberFormat const& format)
 
 std::string simulation_margin(Tally const& tally, NumberFormat const& format)
 {
-    double const casualties = std::max(tally.casualty_margin(0), tally.casualty_margin(1));
+    double const casualties =
+        std::min<double>(std::max(tally.casualty_margin(0), tally.casualty_margin(1)), highest_share);
     return "95 times in 100, wins and ties are at most " + margin_text(share_margin(tally.battles()), format) +
            " points off, average casualties at most " + margin_text(casualties, format) + ".";
 }

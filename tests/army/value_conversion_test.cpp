@@ -2,10 +2,8 @@
 
 #include <cmath>
 #include <gtest/gtest.h>
-#include <limits>
 
 namespace warhost {
-namespace {
 
 NumberFormat const point{".", ","};
 NumberFormat const comma{",", "."};
@@ -57,25 +55,14 @@ TEST(TextToSingle, prefers_the_users_number_format)
     EXPECT_TRUE(std::isfinite(TextToSingle("1e99", point)) && std::isfinite(TextToSingle("-1e999", comma)));
 }
 
-TEST(Texts, of_numbers)
+TEST(Texts, of_numbers_round_their_decimal_value_with_halves_away_from_zero)
 {
-    EXPECT_EQ(SignedText(0), "+0");
-    EXPECT_EQ(SignedText(17), "+17");
-    EXPECT_EQ(SignedText(-3), "-3");
-    EXPECT_EQ(SignedText(std::numeric_limits<std::int32_t>::min()), "-2147483648");
-    // clang-format off
-    struct { float value; char const *with_point, *with_comma; } const levels[] = {
-        {0, "0", "0"}, {1, "1", "1"}, {2.5F, "2.5", "2,5"}, {0.1F, "0.1", "0,1"}, {-20, "-20", "-20"},
-    };
-    // clang-format on
-    for (auto const& [value, with_point, with_comma] : levels) {
-        EXPECT_EQ(general_text(value, point), with_point);
-        EXPECT_EQ(general_text(value, comma), with_comma);
-    }
-}
-
-TEST(OneDecimal, rounds_the_decimal_value_with_halves_away_from_zero)
-{
+    EXPECT_EQ(SignedText(0) + SignedText(17) + SignedText(-3) + SignedText(INT32_MIN), "+0+17-3-2147483648");
+    for (auto const& [value, text] : {std::pair{0.0F, "0"}, {1, "1"}, {2.5F, "2,5"}, {0.1F, "0,1"}, {-20, "-20"}})
+        EXPECT_EQ(general_text(value, comma), text);
+    for (auto const& [size, text] :
+         {std::pair{1665, "16,7"}, {1664, "16,6"}, {-1665, "-16,7"}, {-4, "0,0"}, {0, "0,0"}})
+        EXPECT_EQ(hundredths_as_tenths(size, comma), text);
     // clang-format off
     struct { double value; char const* text; } const cases[] = {
         {16.65, "16.7"}, {0, "0.0"}, {110, "110.0"}, {8.75, "8.8"}, {12.25, "12.3"}, {12.35, "12.4"}, {0.05, "0.1"},
@@ -83,11 +70,6 @@ TEST(OneDecimal, rounds_the_decimal_value_with_halves_away_from_zero)
     };
     // clang-format on
     for (auto const& [value, text] : cases) EXPECT_EQ(one_decimal(value, point), text) << value;
-    for (auto const& [hundredths, text] :
-         {std::pair{1665, "16,7"}, {1664, "16,6"}, {-1665, "-16,7"}, {-4, "0,0"}, {0, "0,0"}}) {
-        EXPECT_EQ(hundredths_as_tenths(hundredths, comma), text);
-    }
 }
 
-} // namespace
 } // namespace warhost

@@ -26,9 +26,8 @@ public:
         for (int round = 0; round < 5; ++round) {
             odds = {};
             Chances next{};
-            for (int die_b = 1; die_b <= 20; ++die_b) {
+            for (int die_b = 1; die_b <= 20; ++die_b)
                 for (int const shown : {0, 1, 20}) fight(die_b, shown, now[place(die_b, shown)], next);
-            }
             now = next;
         }
     }
@@ -37,10 +36,7 @@ public:
 
 private:
     using Chances = std::array<double, 63>;
-    static std::size_t place(int die_b, int shown)
-    {
-        return static_cast<std::size_t>(die_b * 3 + (shown == 20 ? 2 : shown == 1 ? 1 : 0));
-    }
+    static int place(int die_b, int shown) { return die_b * 3 + (shown == 20 ? 2 : shown == 1 ? 1 : 0); }
 
     struct Roll {
         VictorRow const* row;
@@ -91,24 +87,19 @@ private:
         odds.casualties_b += part * (winner == side_a_won ? loser : victor);
     }
 
-    int a_;
-    int b_;
+    int a_, b_;
 };
 
 TEST(Simulation, agrees_with_the_exact_odds)
 {
-    struct Row {
-        int a, b;
-        Odds known; // to four decimals; all 0: not known
+    // clang-format off
+    struct { int a, b; Odds known; } const rows[] = { // to four decimals; all 0: not known
+        {0, 0, {47.5, 47.5, 5, 16.1089, 16.1089}}, {3, 1, {57.25, 38.25, 4.5, 13.7743, 19.0965}},
+        {10, 0, {86.25, 11.25, 2.5, 10.7156, 37.1916}}, {25, 0, {}}, {-4, 7, {}}, {12, 15, {}}, {0, 19, {}},
     };
+    // clang-format on
     constexpr int battles = 1000000;
-    for (auto const& [a, b, known] : {Row{0, 0, {47.5, 47.5, 5, 16.1089, 16.1089}},
-                                      {3, 1, {57.25, 38.25, 4.5, 13.7743, 19.0965}},
-                                      {10, 0, {86.25, 11.25, 2.5, 10.7156, 37.1916}},
-                                      {25, 0, {}},
-                                      {-4, 7, {}},
-                                      {12, 15, {}},
-                                      {0, 19, {}}}) {
+    for (auto const& [a, b, known] : rows) {
         SCOPED_TRACE(std::to_string(a) + "/" + std::to_string(b));
         Odds const exact = ExactOdds{a, b}.odds;
         if (known.ties != 0) {
@@ -121,17 +112,13 @@ TEST(Simulation, agrees_with_the_exact_odds)
         Simulation simulation{a, b, {}};
         simulation.fight(generator, battles);
         Tally const& tally = simulation.tally();
-        auto const expect_share = [&](int winner, double percent) {
+        for (auto const& [winner, percent] :
+             {std::pair{side_a_won, exact.wins_a}, {side_b_won, exact.wins_b}, {tie, exact.ties}}) {
             double const error = std::sqrt(std::max(percent * (100 - percent), 0.0) / battles);
             EXPECT_NEAR(static_cast<double>(tally.won_by(winner)) * 100 / battles, percent, 4.5 * error + 1e-6);
-        };
-        expect_share(side_a_won, exact.wins_a);
-        expect_share(side_b_won, exact.wins_b);
-        expect_share(tie, exact.ties);
-        for (int const Index : {0, 1}) {
-            double const expected = Index == 0 ? exact.casualties_a : exact.casualties_b;
-            EXPECT_NEAR(tally.casualties(Index) / battles, expected, 4.5 * tally.casualty_margin(Index) / 1.96);
         }
+        for (auto const& [Index, expected] : {std::pair{0, exact.casualties_a}, {1, exact.casualties_b}})
+            EXPECT_NEAR(tally.casualties(Index) / battles, expected, 4.5 * tally.casualty_margin(Index) / 1.96);
     }
 }
 
@@ -141,13 +128,10 @@ TEST(Tally, sums_what_each_side_suffered)
     for (int i = 0; i < 3; ++i) tally.count(Tally::place_of(side_a_won, 11) + 37); // 45% and 16.65%
     tally.count(Tally::place_of(tie, 0) + 100);
     EXPECT_EQ(tally.battles(), 4);
-    EXPECT_EQ(tally.won_by(side_a_won), 3);
-    EXPECT_EQ(tally.won_by(side_b_won), 0);
-    EXPECT_EQ(tally.won_by(tie), 1);
+    EXPECT_EQ(std::tuple(tally.won_by(side_a_won), tally.won_by(side_b_won), tally.won_by(tie)), std::tuple(3, 0, 1));
     EXPECT_DOUBLE_EQ(tally.casualties(0), 3.0 * 16.65F + 10);
     EXPECT_DOUBLE_EQ(tally.casualties(1), 3 * 45 + 10);
-    EXPECT_EQ(tally.histogram(0)[17], 3);
-    EXPECT_EQ(tally.histogram(1)[10], 1);
+    EXPECT_EQ(std::pair(tally.histogram(0)[17], tally.histogram(1)[10]), std::pair(std::int64_t{3}, std::int64_t{1}));
 }
 
 } // namespace

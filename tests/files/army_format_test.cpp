@@ -11,16 +11,6 @@ namespace {
 
 using namespace std::string_literals;
 
-Failure decoding_failure(std::string const& bytes)
-{
-    return caught([&] { decode_army(bytes); });
-}
-
-Failure encoding_failure(Army const& army)
-{
-    return caught([&] { encode_army(army); });
-}
-
 bool contains(std::string const& text, std::string const& part) { return text.find(part) != text.npos; }
 
 std::string many(char byte, std::size_t count) { return std::string(count, byte); }
@@ -42,40 +32,29 @@ std::string full_file()
            many('f', 14) + "\0\0\x80\x3F\0\0\x20\x40"s + many('g', 16) + "\1\0\x90"s + no_text + no_text + "\2\0ok"s;
 }
 
-TEST(ArmyFormat, writes_1854_zero_bytes_for_a_new_army) { EXPECT_EQ(encode_army(Army{}), many('\0', 1854)); }
-
 TEST(ArmyFormat, puts_every_field_at_its_offset)
 {
     Army army;
     army.Name = "Orcs";
     army.UnitType[0] = "\u20ACa";
     army.UnitType[30] = "end";
-    std::size_t const S = 4 + 2 + 3;
     std::string expected = "\4\0Orcs\2\0\x80"s + "a" + many('\0', 58) + "\3\0end"s + many('\0', 1790);
-    ASSERT_EQ(expected.size(), 1854 + S);
-    auto const at = [&](std::size_t offset, std::string const& bytes) {
-        expected.replace(offset + S, bytes.size(), bytes);
-    };
-
+    constexpr std::size_t texts = 4 + 2 + 3;
+    ASSERT_EQ(expected.size(), 1854 + texts);
     // clang-format off
+    auto const at = [&](int offset, std::string const& part) { expected.replace(offset + texts, part.size(), part); };
     army.UnitNum[1] = -2; at(64 + 4, "\xFE\xFF\xFF\xFF");
     army.UnitNum[30] = 0x01020304; at(64 + 120, "\4\3\2\1");
-    army.Reserved4.fill('r'); at(64 + 124, many('r', 372));
     army.TotalNo = 0x01020304; at(64 + 496, "\4\3\2\1");
     army.Opt[0] = army.Opt[100] = -1; at(64 + 500, "\xFF\xFF"); at(64 + 700, "\xFF\xFF");
     army.OptValue[0] = army.OptValue[100] = -3; at(64 + 702, "\xFD\xFF\xFF\xFF"); at(64 + 1102, "\xFD\xFF\xFF\xFF");
     army.MiscCheck[0] = army.MiscCheck[100] = 1; at(64 + 1106, "\1"); at(64 + 1306, "\1");
     army.MiscValue[0] = army.MiscValue[100] = 5; at(64 + 1308, "\5"); at(64 + 1708, "\5");
-    army.Reserved10.fill('s'); at(64 + 1712, many('s', 4));
     army.RatioBonus = 20; at(64 + 1716, "\x14");
     army.TotalMod = -1; at(64 + 1718, "\xFF\xFF\xFF\xFF");
-    army.Reserved13.fill('t'); at(64 + 1722, many('t', 6));
-    army.Reserved17.fill('u'); at(1798, many('u', 4));
     army.LevelBonus = 17; at(1806, "\x11");
-    army.Reserved21.fill('v'); at(1808, many('v', 14));
     army.Level = 1; at(1822, "\0\0\x80\x3F"s);
     army.OtherLevel = 2.5F; at(1826, "\0\0\x20\x40"s);
-    army.Reserved24.fill('w'); at(1830, many('w', 16));
     // clang-format on
     EXPECT_EQ(encode_army(army), expected);
     EXPECT_EQ(decode_army(expected), army);
@@ -83,65 +62,48 @@ TEST(ArmyFormat, puts_every_field_at_its_offset)
 
 TEST(ArmyFormat, carries_everything_through_and_ignores_what_follows_the_record)
 {
-    std::string const file = full_file();
-    Army const army = decode_army(file + "more");
-    EXPECT_EQ(encode_army(army), file);
-    EXPECT_EQ(army.Name, "Orcs");
-    EXPECT_EQ(army.UnitType[1], "a\u0081\u00E9");
-    EXPECT_EQ(army.UnitType[30], "zz");
-    EXPECT_EQ(army.Level, 1);
-    EXPECT_EQ(army.OtherLevel, 2.5F);
+    EXPECT_EQ(encode_army(Army{}), many('\0', 1854));
+    Army const army = decode_army(full_file() + "more");
+    EXPECT_EQ(encode_army(army), full_file());
+    EXPECT_EQ(army.Name + army.UnitType[1] + army.UnitType[30], "Orcsa\u0081\u00E9zz");
+    EXPECT_EQ(std::pair(army.Level, army.OtherLevel), std::pair(1.0F, 2.5F));
 }
 
 TEST(ArmyFormat, says_where_a_file_ended_wherever_it_was_cut)
 {
     std::string const file = full_file();
     for (std::size_t length = 0; length < file.size(); ++length) {
-        Failure const failure = decoding_failure(file.substr(0, length));
+        Failure const failure = caught(decode_army, file.substr(0, length));
         ASSERT_EQ(failure.number, number_of(Fault::file_too_short)) << length;
-        ASSERT_TRUE(contains(failure.text, "ends at byte " + std::to_string(length) + ";")) << failure.text;
+        ASSERT_TRUE(contains(failure.text, "ends at byte " + std::to_string(length) + ", but ")) << failure.text;
     }
-    // clang-format off
-    struct { std::size_t length; char const* expected; } const cuts[] = {
-        {1, "2 bytes of the army's name were expected from byte 0 on"},
-        {4, "4 bytes of the army's name were expected from byte 2 on"},
-        {file.size() - 1, "2 bytes of the reserved texts were expected from byte"},
-    };
-    // clang-format on
-    for (auto const& [length, expected] : cuts) {
-        EXPECT_TRUE(contains(decoding_failure(file.substr(0, length)).text, expected))
-            << decoding_failure(file.substr(0, length)).text;
-    }
+    EXPECT_TRUE(contains(caught(decode_army, file.substr(0, 4)).text,
+                         "but 4 bytes of the army's name should follow at byte 2"));
+    EXPECT_TRUE(contains(caught(decode_army, file.substr(0, file.size() - 1)).text, "2 bytes of the reserved texts"));
 }
 
 TEST(ArmyFormat, believes_no_count_that_the_file_cannot_hold)
 {
-    std::string const zeros = many('\0', 1854);
     for (auto const& list : {"\1\0\xFF\xFF\xFF\x7F\0\0\0\0"s, "\1\0\xFF\xFF\xFF\xFF\0\0\0\0"s, "\xFF\xFF"s,
-                             "\2\0\0\0\1\0\0\0\0\0\0\0\1\0\0\0\0\0"s,                        // 2^16 by 2^16
-                             "\3\0\0\0\0\x80\0\0\0\0\0\0\0\x80\0\0\0\0\4\0\0\0\0\0\0\0"s}) { // 2^64 in all
-        for (std::size_t const offset : {1792, 1802}) { // of a list of numbers, and of a list of texts
-            auto bytes = zeros;
-            bytes.replace(offset, 2, list);
-            EXPECT_EQ(decoding_failure(bytes).number, number_of(Fault::file_too_short)) << offset;
-        }
-    }
+                             "\2\0\0\0\1\0\0\0\0\0\0\0\1\0\0\0\0\0"s,                      // 2^16 by 2^16
+                             "\3\0\0\0\0\x80\0\0\0\0\0\0\0\x80\0\0\0\0\4\0\0\0\0\0\0\0"s}) // 2^64 in all
+        for (std::size_t const offset : {1792, 1802}) // of a list of numbers, and of a list of texts
+            EXPECT_EQ(caught(decode_army, many('\0', 1854).replace(offset, 2, list)).number,
+                      number_of(Fault::file_too_short));
 }
 
 TEST(ArmyFormat, refuses_texts_that_no_file_can_hold)
 {
     Army army;
-    army.Name = std::string(65535, 'x');
-    EXPECT_EQ(encoding_failure(army).number, 0);
+    army.Name = many('x', 65535);
+    EXPECT_EQ(caught(encode_army, army).number, 0);
     army.Name += 'x';
-    EXPECT_EQ(encoding_failure(army).number, number_of(Fault::text_too_long));
-    army.Name = "\u0416uk";
-    army.UnitType[2] = "\U0001F432";
-    EXPECT_TRUE(contains(encoding_failure(army).text, "name contains \u0416 (U+0416)")) << encoding_failure(army).text;
+    EXPECT_EQ(caught(encode_army, army).number, number_of(Fault::text_too_long));
     army.Name = "Zhuk";
-    EXPECT_EQ(encoding_failure(army).number, number_of(Fault::outside_code_page));
-    EXPECT_TRUE(contains(encoding_failure(army).text, "unit type #3 contains \U0001F432 (U+1F432)"))
-        << encoding_failure(army).text;
+    army.UnitType[2] = "\U0001F432";
+    Failure const failure = caught(encode_army, army);
+    EXPECT_EQ(failure.number, number_of(Fault::outside_code_page));
+    EXPECT_TRUE(contains(failure.text, "unit type #3 contains \U0001F432 (U+1F432)")) << failure.text;
 }
 
 TEST(CodePage, maps_every_byte_both_ways)
@@ -151,9 +113,8 @@ TEST(CodePage, maps_every_byte_both_ways)
     EXPECT_EQ(windows_1252_of_utf8(utf8_of_windows_1252(every)).bytes, every);
     EXPECT_EQ(utf8_of_windows_1252("a\x80\x81\x85\x8D\x8F\x90\x99\x9D\x9F\xA0\xE9\xFF"),
               "a\u20AC\u0081\u2026\u008D\u008F\u0090\u2122\u009D\u0178\u00A0\u00E9\u00FF");
-    for (char const* outside : {"\u0080", "\u0100", "\uFFFD", "\xFF", "\xC3", "\xC0\x80", "\xED\xA0\x80"}) {
+    for (char const* outside : {"\u0080", "\u0100", "\uFFFD", "\xFF", "\xC3", "\xE0\x80\x80", "\xED\xA0\x80"})
         EXPECT_TRUE(windows_1252_of_utf8(outside).outside.has_value()) << outside;
-    }
 }
 
 } // namespace

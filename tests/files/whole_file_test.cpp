@@ -14,137 +14,108 @@ namespace warhost {
 namespace {
 
 namespace fs = std::filesystem;
-using namespace std::string_literals;
 
 /// Takes the superuser's privileges away for a while: permissions mean nothing to him.
 class OrdinaryUser {
 public:
     OrdinaryUser() : privileged_(::geteuid() == 0 && ::setreuid(nobody, 0) == 0 && ::seteuid(nobody) == 0) {}
-    OrdinaryUser(OrdinaryUser const&) = delete;
-    OrdinaryUser& operator=(OrdinaryUser const&) = delete;
+    OrdinaryUser(OrdinaryUser&&) = delete;
     ~OrdinaryUser()
     {
         if (privileged_ && (::seteuid(0) != 0 || ::setreuid(0, 0) != 0)) std::abort();
     }
-    static bool is_one() { return ::geteuid() != 0; }
 
 private:
     static constexpr uid_t nobody = 65534;
     bool privileged_;
 };
 
-/// The failure's text; empty when there is none or its number is not that of `fault`.
-template <class Run> std::string outcome(Fault fault, Run&& run)
+void replace(std::string const& path) { replace_file(path, std::string(1001, 'x')); }
+
+struct WholeFile : testing::Test, TemporaryFolder {};
+
+TEST_F(WholeFile, replaces_a_file_and_keeps_links_and_permissions)
 {
-    Failure const failure = caught(run);
-    return failure.number == number_of(fault) ? failure.text : "";
+    auto const old = path("old"), once = path("links/once"), twice = path("links/twice"),
+               dangling = path("links/dangling");
+    write("old", std::string(200000, 'x'));
+    EXPECT_EQ(read_file(old).size(), 200000U);
+    fs::permissions(old, fs::perms{0640});
+    fs::create_directory(path("links"));
+    fs::create_symlink("../old", once);
+    fs::create_symlink("once", twice);
+    replace_file(twice, "two");
+    EXPECT_TRUE(fs::is_symlink(twice) && fs::is_symlink(once));
+    EXPECT_EQ(read("old"), "two");
+    EXPECT_EQ(fs::status(old).permissions(), fs::perms{0640});
+    fs::create_symlink(path("born"), dangling);
+    EXPECT_FALSE(FileExists(dangling));
+    replace_file(dangling, "three");
+    EXPECT_TRUE(FileExists(dangling));
+    EXPECT_EQ(read("born"), "three");
+    EXPECT_EQ(names(), (std::set<std::string>{"born", "links", "old"}));
 }
 
-TEST(WholeFile, replaces_a_file_and_keeps_links_and_permissions)
+TEST_F(WholeFile, says_why_it_cannot_be_used_and_leaves_everything_as_it_was)
 {
-    TemporaryFolder folder;
-    replace_file(folder.path("new"), "one");
-    EXPECT_EQ(read_file(folder.path("new")), "one");
-    folder.write("old", std::string(200000, 'x'));
-    EXPECT_EQ(read_file(folder.path("old")).size(), 200000U);
-    fs::permissions(folder.path("old"), fs::perms{0640});
-    fs::create_directory(folder.path("links"));
-    fs::create_symlink("../old", folder.path("links/to_old"));
-    fs::create_symlink("to_old", folder.path("links/twice"));
-    replace_file(folder.path("links/twice"), "two");
-    EXPECT_TRUE(fs::is_symlink(folder.path("links/twice")) && fs::is_symlink(folder.path("links/to_old")));
-    EXPECT_EQ(folder.read("old"), "two");
-    EXPECT_EQ(fs::status(folder.path("old")).permissions(), fs::perms{0640});
-    fs::create_symlink(folder.path("born"), folder.path("links/dangling"));
-    replace_file(folder.path("links/dangling"), "three");
-    EXPECT_EQ(folder.read("born"), "three");
-    EXPECT_EQ(folder.names(), (std::set<std::string>{"born", "links", "new", "old"}));
-}
-
-TEST(WholeFile, says_why_it_cannot_be_used_and_leaves_everything_as_it_was)
-{
-    TemporaryFolder folder;
-    folder.write("file", "whole");
-    fs::create_directory(folder.path("folder"));
-    fs::create_symlink("loop", folder.path("loop"));
-    ASSERT_EQ(::mkfifo(folder.path("pipe").c_str(), 0666), 0);
+    write("file", "whole");
+    fs::create_directory(path("folder"));
+    fs::create_symlink("loop", path("loop"));
+    ASSERT_EQ(::mkfifo(path("pipe").c_str(), 0666), 0);
+    auto const before = names();
     // clang-format off
-    struct { std::string name; Fault fault; std::string text; } const cases[] = {
-        {"folder", Fault::is_a_folder, "This is a folder, not a file: "},
-        {"file/x", Fault::folder_not_found, "The folder was not found: "},
-        {"pipe", Fault::not_a_file, "This is not an ordinary file: "},
-        {"loop", Fault::link_loop, "The symbolic links form a loop: "},
-        {std::string(300, 'n'), Fault::bad_name, "The file name cannot be used: "},
+    struct { std::string name, text; } const cases[] = {
+        {"folder", "This is a folder, not a file: "},
+        {"file/x", "The folder was not found: "},
+        {"pipe", "This is not an ordinary file: "},
+        {"loop", "The symbolic links form a loop: "},
+        {std::string(300, 'n'), "The file name cannot be used: "},
     };
     // clang-format on
-    auto const names = folder.names();
-    for (auto const& [name, fault, text] : cases) {
-        auto const path = folder.path(name);
-        EXPECT_EQ(outcome(fault, [&] { read_file(path); }), text + path);
-        EXPECT_EQ(outcome(fault, [&] { replace_file(path, "x"); }), text + path);
-        EXPECT_EQ(folder.names(), names);
+    for (auto const& [name, text] : cases) {
+        auto const file = path(name);
+        EXPECT_EQ(caught(read_file, file).text, text + file);
+        EXPECT_EQ(caught(replace, file).text, text + file);
+        EXPECT_EQ(FileExists(file), name == "pipe");
+        EXPECT_EQ(names(), before);
     }
-    auto const missing = folder.path("missing");
-    EXPECT_EQ(outcome(Fault::file_not_found, [&] { read_file(missing); }), "The file was not found: " + missing);
-    EXPECT_EQ(outcome(Fault::folder_not_found, [&] { replace_file(missing + "/x", "x"); }),
-              "The folder was not found: " + missing + "/x");
-    EXPECT_EQ(folder.read("file"), "whole");
+    auto const missing = path("missing"), inside = missing + "/x";
+    EXPECT_EQ(caught(read_file, missing).text, "The file was not found: " + missing);
+    EXPECT_EQ(caught(replace, inside).text, "The folder was not found: " + inside);
+    EXPECT_EQ(read("file"), "whole");
 }
 
-TEST(WholeFile, that_cannot_be_written_to_its_end_stays_the_old_one)
+TEST_F(WholeFile, that_cannot_be_written_to_its_end_stays_the_old_one)
 {
-    TemporaryFolder folder;
-    folder.write("file", "whole");
+    write("file", "whole");
     rlimit before{};
     ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
-    rlimit const small{1000, before.rlim_max};
     auto* const handler = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit const small{1000, before.rlim_max};
     ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
-    auto const text = outcome(Fault::too_large, [&] { replace_file(folder.path("file"), std::string(1001, 'x')); });
+    auto const text = caught(replace, path("file")).text;
     ::setrlimit(RLIMIT_FSIZE, &before);
     std::signal(SIGXFSZ, handler);
-    EXPECT_EQ(text, "The file is too large: " + folder.path("file"));
-    EXPECT_EQ(folder.read("file"), "whole");
-    EXPECT_EQ(folder.names(), (std::set<std::string>{"file"}));
+    EXPECT_EQ(text, "The file is too large: " + path("file"));
+    EXPECT_EQ(read("file"), "whole");
+    EXPECT_EQ(names(), std::set<std::string>{"file"});
 }
 
-TEST(WholeFile, respects_permissions)
+TEST_F(WholeFile, respects_permissions)
 {
-    TemporaryFolder folder;
-    auto const file = folder.path("file"), secret = folder.path("secret"), born = folder.path("new");
-    for (char const* name : {"file", "secret"}) folder.write(name, "whole");
-    fs::permissions(file, fs::perms{0444});
-    fs::permissions(secret, fs::perms::none);
-    fs::permissions(folder.path(), fs::perms{0777});
-    {
-        OrdinaryUser user;
-        if (!user.is_one()) GTEST_SKIP() << "the superuser may do everything";
-        EXPECT_EQ(read_file(file), "whole");
-        EXPECT_EQ(outcome(Fault::permission_denied, [&] { replace_file(file, "x"); }), "Permission denied: " + file);
-        EXPECT_EQ(outcome(Fault::permission_denied, [&] { read_file(secret); }), "Permission denied: " + secret);
-    }
-    fs::permissions(folder.path(), fs::perms{0555});
-    {
-        OrdinaryUser user;
-        EXPECT_EQ(outcome(Fault::permission_denied, [&] { replace_file(born, "x"); }), "Permission denied: " + born);
-    }
-    fs::permissions(folder.path(), fs::perms{0755});
-    EXPECT_EQ(folder.names(), (std::set<std::string>{"file", "secret"}));
-    EXPECT_EQ(folder.read("file"), "whole");
-}
-
-TEST(FileExists, for_every_kind_of_file_but_no_folder)
-{
-    TemporaryFolder folder;
-    folder.write("file", "");
-    folder.write(".hidden", "");
-    fs::create_symlink("file", folder.path("link"));
-    fs::create_symlink("nowhere", folder.path("dangling"));
-    for (char const* name : {"file", ".hidden", "link"}) EXPECT_TRUE(FileExists(folder.path(name))) << name;
-    for (auto const& name : {"dangling"s, "file/x"s, "none/x"s, ""s, std::string(300, 'n')}) {
-        EXPECT_FALSE(FileExists(folder.path(name))) << name;
-    }
-    EXPECT_FALSE(FileExists(""));
+    auto const file = path("file"), secret = path("secret"), born = path("shut/new");
+    for (char const* name : {"file", "secret"}) write(name, "whole");
+    fs::create_directory(path("shut"));
+    for (auto const& [name, mode] : {std::pair{"file", 0444U}, {"secret", 0U}, {"shut", 0555U}, {"", 0777U}})
+        fs::permissions(path(name), fs::perms{mode});
+    OrdinaryUser user;
+    if (::geteuid() == 0) GTEST_SKIP() << "the superuser may do everything";
+    EXPECT_EQ(read_file(file), "whole");
+    EXPECT_EQ(caught(replace, file).text, "Permission denied: " + file);
+    EXPECT_EQ(caught(read_file, secret).text, "Permission denied: " + secret);
+    EXPECT_EQ(caught(replace, born).text, "Permission denied: " + born);
+    EXPECT_EQ(names(), (std::set<std::string>{"file", "secret", "shut"}));
+    EXPECT_EQ(read("file"), "whole");
 }
 
 } // namespace

@@ -1,7 +1,5 @@
 #include "ui/test_desktop.h"
 
-#include <limits>
-
 namespace warhost {
 namespace {
 
@@ -13,47 +11,39 @@ std::string totals(Main& form)
            ", A " + form.txtTotalMod(0).text() + " B " + form.txtTotalMod(1).text();
 }
 
-std::string joined(std::vector<std::string> const& items)
+/// "text of item item ..."
+std::string offered(ComboBox const& box)
 {
-    std::string text;
-    for (auto const& item : items) text += (text.empty() ? "" : " ") + item;
+    std::string text = box.text() + " of";
+    for (auto const& item : box.list()) text += " " + item;
     return text;
 }
 
-TEST(ArmyScreen, starts_with_two_armies_alike_and_side_a_shown)
+struct ArmyScreen : testing::Test, Program {};
+
+TEST_F(ArmyScreen, starts_with_two_armies_alike_and_side_a_shown)
 {
-    Program program;
-    Main& form = program.form;
     Army expected;
     expected.Level = 1;
     for (auto const& [row, value] : {std::pair{1, 1}, {2, 3}, {3, -2}}) expected.MiscValue.at(row) = value;
-    EXPECT_EQ(form.ArmyA, expected);
-    EXPECT_EQ(form.CurArmy, expected);
+    EXPECT_TRUE(form.ArmyA == expected && form.CurArmy == expected);
     expected.OtherLevel = 1;
     EXPECT_EQ(form.ArmyB, expected);
     EXPECT_EQ(totals(form), "0/0 1.0:1 +0, vs 0 +0, A 0 B 0");
     EXPECT_EQ(texts(form.cmbLevel, form.cmbOpt(0), form.txtUnitNum(7), form.txtANum(15)), "1/+0/0/0");
     EXPECT_EQ(form.cmbLevel.list().front() + " " + form.cmbLevel.list().back(), "1 20");
     EXPECT_TRUE(form.FrameArmy.visible() && !form.FrameCombat.visible());
-    EXPECT_EQ(form.battle, BattleState{});
-    EXPECT_TRUE(program.desktop.boxes.empty());
-    EXPECT_EQ(program.random.drawn, 0);
+    EXPECT_TRUE(form.battle == BattleState{} && desktop.boxes.empty());
 }
 
-TEST(ArmyScreen, recomputes_both_armies_after_every_change)
+TEST_F(ArmyScreen, recomputes_both_armies_after_every_change)
 {
-    Program program;
-    Main& form = program.form;
     // clang-format off
     struct { char const* step; std::function<void()> act; char const* expected; } const steps[] = {
-        {"Masterwork", [&] { form.opt(6).set_selected(true); }, "2/0 1.0:1 +0, vs 0 +0, A 2 B 0"},
         {"Poor", [&] { form.opt(4).set_selected(true); }, "-2/0 1.0:1 +0, vs 0 +0, A -2 B 0"},
         {"a range", [&] { form.opt(3).set_selected(true); }, "0/0 1.0:1 +0, vs 0 +0, A 0 B 0"},
+        {"typed", [&] { form.cmbOpt(0).set_text("+7 or so"); }, "5/0 1.0:1 +0, vs 0 +0, A 5 B 0"},
         {"+4 of it", [&] { form.cmbOpt(0).choose(2); }, "2/0 1.0:1 +0, vs 0 +0, A 2 B 0"},
-        {"typed", [&] { form.cmbOpt(0).set_text("7"); }, "5/0 1.0:1 +0, vs 0 +0, A 5 B 0"},
-        {"a word behind", [&] { form.cmbOpt(0).set_text("+3 or so"); }, "1/0 1.0:1 +0, vs 0 +0, A 1 B 0"},
-        {"letters", [&] { form.cmbOpt(0).set_text("many"); }, "-2/0 1.0:1 +0, vs 0 +0, A -2 B 0"},
-        {"+4 again", [&] { form.cmbOpt(0).choose(2); }, "2/0 1.0:1 +0, vs 0 +0, A 2 B 0"},
         {"level 10, B's level not yet passed on", [&] { form.cmbLevel.choose(9); }, "2/0 1.0:1 +0, vs 0 +0, A 2 B 0"},
         {"B's level 1 passed on to A", [&] { form.TabStrip.choose(2); }, "0/0 1.0:1 +0, vs 10 +0, A 19 B 0"},
         {"10 against 5", [&] { form.cmbLevel.set_text("5"); }, "0/0 1.0:1 +0, vs 10 +0, A 3 B 0"},
@@ -64,62 +54,63 @@ TEST(ArmyScreen, recomputes_both_armies_after_every_change)
         {"misc ticked", [&] { form.chkMisc(1).set_state(1); }, "3/40 < 1:1 +0, vs 5 +0, A 3 B 4"},
         {"misc typed", [&] { form.cmbMisc(1).set_text("+30"); }, "32/40 < 1:1 +0, vs 5 +0, A 32 B 4"},
         {"misc unticked", [&] { form.chkMisc(1).set_state(0); }, "2/40 < 1:1 +0, vs 5 +0, A 2 B 4"},
-        {"the combat tab", [&] { form.TabStrip.choose(3); }, "2/40 < 1:1 +0, vs 5 +0, A 2 B 4"},
-        {"A unchanged", [&] { form.TabStrip.choose(1); }, "2/40 < 1:1 +0, vs 5 +0, A 2 B 4"},
+        {"the combat tab", [&] { for (int t : {3, 1}) form.TabStrip.choose(t); }, "2/40 < 1:1 +0, vs 5 +0, A 2 B 4"},
         {"150 against 100", [&] { form.txtUnitNum(7).set_text("110"); }, "3/150 1.5:1 +1, vs 5 +0, A 3 B 1"},
         {"B after all that", [&] { form.TabStrip.choose(2); }, "1/100 < 1:1 +0, vs 2.5 +1, A 3 B 1"},
+        {"decimal commas", [&] { desktop.format = {",", "."}; form.cmbLevel.set_text("7,5"); },
+            "3/100 < 1:1 +0, vs 2,5 +3, A 3 B 3"},
+        {"230 against 150", [&] { form.txtUnitNum(0).set_text("230"); }, "4/230 1,5:1 +1, vs 2,5 +3, A 2 B 4"},
+        {"A's 2,5 read back", [&] { form.TabStrip.choose(1); }, "2/150 < 1:1 +0, vs 7,5 +0, A 2 B 4"},
+        {"too much", [&] { for (int i : {0, 7}) form.cmbOpt(i).set_text("2e9"); },
+            "1999999998/150 < 1:1 +0, vs 7,5 +0, A 1999999998 B 4"},
+        {"too many", [&] { for (int i : {0, 1}) form.txtUnitNum(i).set_text("2e9"); },
+            "1999999998/2000000000 > 99:1 +20, vs 7,5 +0, A 1999999998 B 3"},
     };
     // clang-format on
     for (auto const& [step, act, expected] : steps) {
         act();
         EXPECT_EQ(totals(form), expected) << step;
-        EXPECT_TRUE(form.TabStrip.position() == 3 || form.CurArmy == form.of_side(form.TabStrip.position())) << step;
     }
     Army const& a = form.ArmyA;
-    EXPECT_EQ(std::tuple(a.MiscValue[1], a.MiscCheck[1], a.Opt[3], a.Opt[6]), std::tuple(30, 0, -1, 0));
+    EXPECT_EQ(a, form.CurArmy);
+    EXPECT_EQ(std::tuple(a.MiscValue[1], a.MiscCheck[1], a.Opt[3], a.Opt[4]), std::tuple(30, 0, -1, -1));
+    EXPECT_TRUE(form.txtANum(1).text() == "2e9" && desktop.boxes.empty()); // failed sums are passed over
 }
 
-TEST(ArmyScreen, options_offer_their_range_and_a_chosen_value_comes_back)
+TEST_F(ArmyScreen, options_offer_their_range_and_a_chosen_value_comes_back)
 {
-    Program program;
-    Main& form = program.form;
     // clang-format off
     struct { int option, category; char const* list; } const cases[] = {
-        {0, 0, "-2"}, {3, 0, "+2 +3 +4"}, {5, 1, "+0"}, {12, 2, "+4 +5 +6 +7 +8 +9 +10 +11 +12 +13 +14 +15"},
-        {19, 3, "+8"}, {40, 4, "+5"}, {24, 4, "+3"},
-        {29, 5, "+5 +6 +7 +8 +9 +10 +11 +12 +13 +14 +15 +16 +17 +18 +19 +20"}, {41, 7, "-3"},
+        {0, 0, "-2 of -2"}, {3, 0, "+2 of +2 +3 +4"}, {5, 1, "+0 of +0"}, {19, 3, "+8 of +8"}, {40, 4, "+5 of +5"},
+        {24, 4, "+3 of +3"}, {41, 7, "-3 of -3"}, {12, 2, "+4 of +4 +5 +6 +7 +8 +9 +10 +11 +12 +13 +14 +15"},
+        {29, 5, "+5 of +5 +6 +7 +8 +9 +10 +11 +12 +13 +14 +15 +16 +17 +18 +19 +20"},
     };
     // clang-format on
     for (auto const& [option, category, list] : cases) {
         form.opt(option).set_selected(true);
-        EXPECT_EQ(joined(form.cmbOpt(category).list()), list) << option;
-        EXPECT_EQ(form.cmbOpt(category).text(), form.cmbOpt(category).list().front()) << option;
+        EXPECT_EQ(offered(form.cmbOpt(category)), list) << option;
     }
     EXPECT_FALSE(form.opt(40).selected()); // of the frame of 24
     form.cmbOpt(0).choose(2);
     form.opt(3).set_selected(true); // selected already: nothing happens
     EXPECT_EQ(form.cmbOpt(0).text(), "+4");
     form.TabStrip.choose(2);
-    EXPECT_EQ(form.cmbOpt(0).text() + " of " + joined(form.cmbOpt(0).list()), "+0 of +2 +3 +4"); // the list stays
+    EXPECT_EQ(offered(form.cmbOpt(0)), "+0 of +2 +3 +4"); // the list stays
     EXPECT_FALSE(form.opt(3).selected());
     form.opt(1).set_selected(true);
     form.TabStrip.choose(1);
-    EXPECT_EQ(form.cmbOpt(0).text() + " of " + joined(form.cmbOpt(0).list()), "+4 of +2 +3 +4");
+    EXPECT_EQ(offered(form.cmbOpt(0)), "+4 of +2 +3 +4");
     EXPECT_TRUE(form.opt(3).selected() && !form.opt(1).selected());
 }
 
-TEST(ArmyScreen, keeps_the_combat_rows_of_the_side_shown_in_step)
+TEST_F(ArmyScreen, keeps_the_combat_rows_of_the_side_shown_in_step)
 {
-    Program program;
-    Main& form = program.form;
     form.txtANum(8).set_text("initial");
     form.txtArmyName.set_text("Orcs");
     form.txtUnitType(1).set_text("Riders");
     form.txtUnitNum(1).set_text("12 men");
-    EXPECT_EQ(texts(form.txtAName(1), form.txtANum(1), form.txtANum(0)), "Riders/12 men/0");
-    EXPECT_EQ(form.ArmyA.UnitNum[1], 12);
-    EXPECT_EQ(form.ArmyA.Name + " " + form.ArmyA.UnitType[1], "Orcs Riders");
-    EXPECT_EQ(form.txtANum(8).text(), "initial"); // until Side B is shown
+    EXPECT_EQ(texts(form.txtAName(1), form.txtANum(1), form.txtANum(0), form.txtANum(8)), "Riders/12 men/0/initial");
+    EXPECT_TRUE(form.ArmyA.UnitNum[1] == 12 && form.ArmyA.UnitType[1] == "Riders");
     form.TabStrip.choose(2);
     EXPECT_EQ(texts(form.txtANum(8), form.txtANum(9), form.txtArmyName, form.txtUnitType(1)), "0/0//");
     form.txtUnitNum(1).set_text("9000000000");
@@ -129,18 +120,16 @@ TEST(ArmyScreen, keeps_the_combat_rows_of_the_side_shown_in_step)
               "Wolves/9000000000/Riders/12 men");
     form.TabStrip.choose(3);
     EXPECT_TRUE(!form.FrameArmy.visible() && form.FrameCombat.visible());
-    Army const before = form.ArmyA;
     form.CurArmy.Name = "nobody's";
-    form.CurArmy_Save();
-    EXPECT_EQ(form.ArmyA, before);
     form.cmbLevel.set_text("9"); // neither side is being edited: only the level is passed on, to Side A
     EXPECT_EQ(std::pair(form.ArmyA.OtherLevel, form.ArmyB.OtherLevel), std::pair(9.0F, 1.0F));
     form.TabStrip.choose(1);
     EXPECT_TRUE(form.FrameArmy.visible() && !form.FrameCombat.visible());
     EXPECT_EQ(texts(form.txtArmyName, form.txtUnitType(1), form.txtUnitNum(1)), "Orcs/Riders/12");
+    EXPECT_EQ(form.ArmyB.Name, "");
 }
 
-TEST(ArmyScreen, compares_the_troops)
+TEST_F(ArmyScreen, compares_the_troops)
 {
     // clang-format off
     struct { int own, other, own_bonus, other_bonus; std::string ratio; } const cases[] = {
@@ -151,54 +140,21 @@ TEST(ArmyScreen, compares_the_troops)
         {1, 2000000000, 0, 20, "< 1:1"}, {0, -5, 20, 0, "> 99:1"}, {-3, -5, 20, 0, "> 99:1"}, {-5, 0, 0, 20, "< 1:1"},
     };
     // clang-format on
-    Program program;
-    Main& form = program.form;
     for (int const Side : {1, 2}) {
+        Army &mine = form.of_side(Side), &theirs = form.of_side(3 - Side);
         for (auto const& [own, other, own_bonus, other_bonus, ratio] : cases) {
-            SCOPED_TRACE(std::to_string(own) + " to " + std::to_string(other));
             form.CurArmy.TotalNo = own;
-            form.of_side(3 - Side).TotalNo = other;
-            form.of_side(3 - Side).RatioBonus = form.of_side(Side).RatioBonus = 77;
+            theirs.TotalNo = other;
+            mine.RatioBonus = 77;
             form.CalcTroopRatio(Side);
-            EXPECT_EQ(texts(form.lblRatio, form.lblRatioBonus), ratio + "/+" + std::to_string(own_bonus));
-            EXPECT_EQ(
-                std::tuple(form.CurArmy.RatioBonus, form.of_side(3 - Side).RatioBonus, form.of_side(Side).RatioBonus),
-                std::tuple(own_bonus, other_bonus, 77));
+            EXPECT_EQ(texts(form.lblRatio, form.lblRatioBonus), ratio + "/" + SignedText(own_bonus)) << own;
+            EXPECT_EQ(std::tuple(form.CurArmy.RatioBonus, theirs.RatioBonus), std::tuple(own_bonus, other_bonus))
+                << own;
+            EXPECT_EQ(mine.RatioBonus, 77);
         }
     }
     form.CalcTroopRatio(3);
     EXPECT_EQ(form.ArmyA.RatioBonus, 20); // as the last case left it: nothing was stored
-}
-
-TEST(ArmyScreen, passes_over_sums_that_overflow_and_does_the_rest)
-{
-    Program program;
-    Main& form = program.form;
-    form.cmbOpt(0).set_text("2000000000");
-    form.cmbOpt(7).set_text("2000000000");
-    EXPECT_EQ(form.txtTotal.text(), "2000000000"); // of before
-    form.txtUnitNum(0).set_text("2000000000");
-    form.txtUnitNum(3).set_text("1e12");
-    EXPECT_EQ(texts(form.txtTotalNo, form.lblRatio, form.txtANum(3)), "2000000000/> 99:1/1e12");
-    form.cmbOpt(7).set_text("");
-    EXPECT_EQ(form.txtTotal.text(), "2000000020");
-    EXPECT_TRUE(program.desktop.boxes.empty());
-}
-
-TEST(ArmyScreen, reads_and_shows_levels_in_the_users_number_format)
-{
-    Program program;
-    Main& form = program.form;
-    program.desktop.format = {",", "."};
-    form.cmbLevel.set_text("2,5");
-    EXPECT_EQ(form.ArmyA.Level, 2.5F);
-    form.txtUnitNum(0).set_text("3");
-    form.TabStrip.choose(2);
-    EXPECT_EQ(form.lblOtherLevel.caption(), "2,5");
-    form.txtUnitNum(0).set_text("8");
-    EXPECT_EQ(form.lblRatio.caption(), "2,7:1");
-    form.TabStrip.choose(1);
-    EXPECT_EQ(form.cmbLevel.text(), "2,5");
 }
 
 TEST(MiscPanel, makes_a_row_of_every_entry)
@@ -207,24 +163,22 @@ TEST(MiscPanel, makes_a_row_of_every_entry)
     Main& form = program.form;
     // clang-format off
     struct { char const* shown; int topic; bool grey; float top; } const rows[] = {
-        {"Ford (-1 to +1): -1 +0 +1: -1", 12, true, 300}, {"Hill (+1 to +3): +1 +2 +3: +3", 0, false, 600},
-        {"(+4): +4: +4", 0, true, 900},
+        {"Ford (-1 to +1): -1 of -1 +0 +1", 12, true, 300}, {"Hill (+1 to +3): +3 of +1 +2 +3", 0, false, 600},
+        {"(+4): +4 of +4", 0, true, 900},
     };
+    auto const placed = [](Place const& at) { return std::array{at.Left, at.Top, at.Width, at.Height}; };
     // clang-format on
     ASSERT_EQ(form.chkMisc.highest(), 3);
     for (int row = 1; row <= 3; ++row) {
         auto const& [shown, topic, grey, top] = rows[row - 1];
         CheckBox const& box = form.chkMisc(row);
         ComboBox const& value = form.cmbMisc(row);
-        EXPECT_EQ(box.caption() + ": " + joined(value.list()) + ": " + value.text(), shown);
+        EXPECT_EQ(box.caption() + ": " + offered(value), shown);
         EXPECT_EQ(value.text(), SignedText(form.ArmyB.MiscValue.at(row)));
         EXPECT_EQ(std::tuple(box.help_topic, value.help_topic, box.striped), std::tuple(topic, topic, grey));
         EXPECT_TRUE(box.visible && value.visible && box.state() == 0);
-        for (auto const& [place, left, width] :
-             {std::tuple{box.place, 120.0F, 5655.0F}, {value.place, 5040.0F, 735.0F}}) {
-            EXPECT_EQ(std::tuple(place.Left, place.Top, place.Width, place.Height),
-                      std::tuple(left, top, width, 315.0F));
-        }
+        EXPECT_EQ(placed(box.place), (std::array{120.0F, top, 5655.0F, 315.0F}));
+        EXPECT_EQ(placed(value.place), (std::array{5040.0F, top, 735.0F, 315.0F}));
     }
     EXPECT_FALSE(form.chkMisc(0).visible || form.cmbMisc(0).visible);
     form.chkMisc(2).set_state(1);
@@ -235,8 +189,7 @@ TEST(MiscPanel, makes_a_row_of_every_entry)
     EXPECT_TRUE(form.chkMisc(2).bold());
     form.cmbMisc.create(4); // unequal numbers: no row counts
     form.CalcTotal();
-    EXPECT_EQ(form.txtTotal.text(), "0");
-    EXPECT_EQ(form.ArmyA.MiscValue[3], 0);
+    EXPECT_TRUE(form.txtTotal.text() == "0" && form.ArmyA.MiscValue[3] == 0);
 }
 
 TEST(MiscPanel, counts_a_hundred_rows_and_shows_the_others)
@@ -244,32 +197,23 @@ TEST(MiscPanel, counts_a_hundred_rows_and_shows_the_others)
     std::string list;
     for (int row = 1; row <= 103; ++row) list += "x\n" + std::to_string(row) + "\n";
     Program program{list};
-    for (int row : {99, 100, 101, 103}) program.form.chkMisc(row).set_state(1);
-    EXPECT_EQ(program.form.txtTotal.text(), "199");
-    EXPECT_TRUE(program.form.chkMisc(103).bold());
-    EXPECT_EQ(program.form.ArmyA.MiscValue[100], 100);
-    program.form.TabStrip.choose(2);
-    EXPECT_EQ(program.form.txtTotal.text(), "0");
-    EXPECT_EQ(program.form.chkMisc(100).state() + program.form.chkMisc(103).state(), 1); // nobody keeps row 103's
+    Main& form = program.form;
+    for (int row : {99, 100, 101, 103}) form.chkMisc(row).set_state(1);
+    EXPECT_TRUE(form.txtTotal.text() == "199" && form.chkMisc(103).bold());
+    form.TabStrip.choose(2);
+    EXPECT_EQ(form.chkMisc(100).state() + form.chkMisc(103).state(), 1); // nobody keeps row 103's
 }
 
-TEST(Fields, notify_whenever_a_text_is_set_but_only_when_a_state_changes)
+TEST(Fields, raise_no_click_without_a_change_nor_when_deselected)
 {
-    int changes = 0, clicks = 0;
-    TextBox text{"text", "same"};
-    text.Change = [&] { ++changes; };
-    for (char const* same : {"same", "same"}) text.set_text(same);
+    int clicks = 0;
     CheckBox box{"box"};
-    box.Click = [&] { ++clicks; };
-    for (int state : {0, 1, 1, 0}) box.set_state(state);
     OptionGroup group;
-    OptionButton first{"opt(0)", "", "", group}, second{"opt(1)", "", "", group};
-    first.Click = second.Click = [&] { clicks += 10; };
-    for (auto* option : {&first, &first, &second}) option->set_selected(true);
-    EXPECT_FALSE(first.selected());
-    second.set_selected(false);
-    EXPECT_EQ(changes, 2);
-    EXPECT_EQ(clicks, 22);
+    OptionButton option{"opt(0)", "", "", group};
+    box.Click = option.Click = [&] { ++clicks; };
+    for (int const state : {0, 1, 1, 0}) box.set_state(state);
+    for (bool const selected : {true, true, false, false}) option.set_selected(selected);
+    EXPECT_EQ(clicks, 3);
 }
 
 } // namespace

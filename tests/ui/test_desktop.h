@@ -19,25 +19,12 @@ namespace warhost {
 /// Thrown where the real program would end.
 struct ProgramEnded {};
 
-/// "title: text [buttons, icon, default button]"
-inline std::string described(MessageBox const& box)
-{
-    constexpr std::array buttons{"OK", "Yes No", "Abort Retry Ignore"};
-    constexpr std::array icons{"no icon", "exclamation", "critical"};
-    constexpr std::array answers{"OK", "Yes", "No", "Abort", "Retry", "Ignore"};
-    return box.title + ": " + box.text + " [" + buttons.at(static_cast<std::size_t>(box.buttons)) + ", " +
-           icons.at(static_cast<std::size_t>(box.icon)) + ", " +
-           answers.at(static_cast<std::size_t>(box.default_answer)) + "]";
-}
-
 class TestDesktop final : public Desktop {
 public:
-    std::vector<std::string> boxes;    // every message box, described
-    std::deque<Answer> answers;        // to the next message boxes; after them each gets its default answer
+    std::vector<std::string> boxes;    // every message box: "title: text [buttons, icon, default button]"
+    std::optional<Answer> answer;      // to every message box; without it each gets its default answer
     std::function<void()> while_asked; // runs while a message box is open
-    std::vector<InputBox> inputs;
     std::string typed;
-    std::vector<FileDialog> dialogs;
     std::optional<std::string> chosen;
     std::vector<std::string> requests; // everything else that was asked for
     NumberFormat format;
@@ -48,61 +35,64 @@ public:
 
     Answer message_box(MessageBox const& box) override
     {
-        boxes.push_back(described(box));
+        constexpr std::array buttons{"OK", "Yes No", "Abort Retry Ignore"};
+        constexpr std::array icons{"no icon", "exclamation", "critical"};
+        constexpr std::array answers{"OK", "Yes", "No", "Abort", "Retry", "Ignore"};
+        auto const word = [](auto const& words, auto place) { return words.at(static_cast<std::size_t>(place)); };
+        boxes.push_back(box.title + ": " + box.text + " [" + word(buttons, box.buttons) + ", " + word(icons, box.icon) +
+                        ", " + word(answers, box.default_answer) + "]");
         if (while_asked) while_asked();
-        if (answers.empty()) return box.default_answer;
-        Answer const answer = answers.front();
-        answers.pop_front();
-        return answer;
+        return answer.value_or(box.default_answer);
     }
     std::string input_box(InputBox const& box) override
     {
-        inputs.push_back(box);
-        return typed;
+        return noted(box.prompt + "|" + box.title + "|" + box.default_text, typed);
     }
     std::optional<std::string> file_dialog(FileDialog const& dialog) override
     {
-        dialogs.push_back(dialog);
-        return chosen;
+        return noted((dialog.kind == FileDialogKind::open ? "open|" : "save|") + dialog.title + "|" +
+                         dialog.default_extension + "|" + dialog.filter + "|" + dialog.file_name +
+                         (dialog.file_must_exist ? " file-must-exist" : "") +
+                         (dialog.folder_must_exist ? " folder-must-exist" : "") +
+                         (dialog.hide_read_only ? " no-read-only" : "") +
+                         (dialog.overwrite_prompt ? " ask-before-overwriting" : ""),
+                     chosen);
     }
     bool minimized() override { return is_minimized; }
     ClientArea client_area() override { return client; }
     double twips_per_pixel_x() override { return twips; }
     double twips_per_pixel_y() override { return twips; }
-    void close_window() override { requests.emplace_back("close"); }
+    void close_window() override { noted("close", true); }
     [[noreturn]] void end_program() override { throw ProgramEnded{}; }
     NumberFormat number_format() override { return format; }
     std::string program_directory() override { return directory; }
-    void show_help(int topic) override { requests.push_back("help " + std::to_string(topic)); }
-    bool open_address(std::string const& address) override
+    void show_help(int topic) override { noted("help " + std::to_string(topic), true); }
+    bool open_address(std::string const& address) override { return noted(address, false); }
+    void show_about() override { noted("about", true); }
+
+private:
+    template <class Reply> Reply noted(std::string const& request, Reply reply)
     {
-        requests.push_back(address);
-        return false;
+        requests.push_back(request);
+        return reply;
     }
-    void show_about() override { requests.emplace_back("about"); }
 };
 
-/// Gives the planted values one after another, then `otherwise` for ever; running out without one is a failure.
+/// Gives the planted values one after another; that more is rolled than the script holds is a failure.
 class ScriptedRandom final : public RandomSource {
 public:
     std::deque<double> values;
-    std::optional<double> otherwise;
-    int drawn = 0;
 
     double next() override
     {
-        ++drawn;
-        if (values.empty()) {
-            EXPECT_TRUE(otherwise.has_value()) << "more was rolled than the script holds";
-            return otherwise.value_or(0);
-        }
-        double const value = values.front();
+        double const value = values.at(0);
         values.pop_front();
         return value;
     }
 };
 
-/// The random value of a die that shows `face`, and of `percent` out of a range.
+/// The random value of a die that shows `face`, and of `percent` out of a
+/// range.
 constexpr double d20(int face) { return (face - 0.5) / 20; }
 constexpr double share(int percent, int low, int high) { return (percent - low + 0.5) / (high - low + 1); }
 
@@ -115,7 +105,17 @@ template <class First, class... Fields> std::string texts(First const& first, Fi
     return (shown(first) + ... + ("/" + shown(fields)));
 }
 
-/// A started program with a list of three misc modifiers, or another list, or none.
+/// The box that reports a simulation, of its five numbers.
+inline std::string report(std::array<std::string, 5> const& numbers)
+{
+    return "Warhost Simulation: Battle Results\r\n--------------\r\nSide A\r\n   Wins: " + numbers[0] +
+           "% of the time\r\n   Average casualties: " + numbers[1] + "%\r\n\r\nSide B\r\n   Wins: " + numbers[2] +
+           "% of the time\r\n   Average casualties: " + numbers[3] + "%\r\n\r\nTied:\r\n   " + numbers[4] +
+           "% of the time\r\n\r\n [OK, no icon, OK]";
+}
+
+/// A started program with a list of three misc modifiers, or another list, or
+/// none.
 struct Program {
     static constexpr char const* usual_list = "High ground\r\n101|1,3\r\nAmbush\r\n102|3,1\r\nRain\r\n-2\r\n";
 
