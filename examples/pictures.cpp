@@ -2,6 +2,7 @@
 
 #include "battle/random.h"
 #include "ui/main.h"
+#include "ui/qt/outline_style.h"
 #include "ui/qt/qt_desktop.h"
 #include "ui/qt/report_box.h"
 #include "ui/qt/window.h"
@@ -67,7 +68,8 @@ int main(int argc, char* argv[])
         std::cerr << "Usage: pictures DATA FOLDER\n";
         return EXIT_FAILURE;
     }
-    QApplication application{argc, argv};
+    QApplication const application{argc, argv};
+    QApplication::setStyle(new OutlineStyle);
     QFont font{"DejaVu Sans"};
     font.setPixelSize(11);
     QApplication::setFont(font);

@@ -192,6 +192,9 @@ QWidget* ArmyPage::experience()
     lines->setSpacing(0);
 
     auto* const first = new QHBoxLayout;
+    auto* const result = make_.value_box(form_.cmbOpt(6), "Experience result", 0);
+    result->setParent(this);
+    result->hide(); // a file may fill it, but nobody sees it
     auto* const level_label = make_.label(form_.Label15);
     auto* const level = make_.value_box(form_.cmbLevel, "Average troop level", 60);
     level_label->setBuddy(level);
@@ -203,7 +206,7 @@ QWidget* ArmyPage::experience()
     auto* const second = new QHBoxLayout;
     second->setSpacing(make_.pixels(4));
     second->addWidget(make_.label(form_.Label16));
-    second->addWidget(make_.label(form_.lblOtherLevel, 40));
+    second->addWidget(make_.label(form_.lblOtherLevel, 64));
     second->addWidget(make_.label(form_.Label18));
     second->addWidget(make_.label(form_.lblLevelBonus, bonus_width));
     second->addStretch();

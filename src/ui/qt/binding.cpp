@@ -21,7 +21,10 @@ namespace {
 /// An equal text is left alone: so the cursor keeps its place while the user types.
 void show_text(QLineEdit& box, std::string const& text)
 {
-    if (QString const wanted = to_qt(text); box.text() != wanted) box.setText(wanted);
+    QString const wanted = to_qt(text);
+    if (box.text() == wanted) return;
+    box.setText(wanted);
+    if (!box.hasFocus()) box.setCursorPosition(0); // a long text shows its beginning
 }
 
 } // namespace
@@ -29,7 +32,7 @@ void show_text(QLineEdit& box, std::string const& text)
 void name_after(Control const& field, QWidget& widget)
 {
     widget.setObjectName(to_qt(field.name()));
-    if (!field.tooltip.empty()) widget.setToolTip(to_tooltip(to_qt(field.tooltip)));
+    if (!field.tooltip.empty()) widget.setToolTip(to_qt(field.tooltip));
 }
 
 void bind(TextLabel& field, QLabel& label)
@@ -45,8 +48,10 @@ void bind(TextBox& field, QLineEdit& box)
     name_after(field, box);
     box.setMaxLength(std::numeric_limits<int>::max());
     box.setReadOnly(field.read_only);
-    QObject::connect(&box, &QLineEdit::textEdited, &box,
-                     [&](QString const& typed) { field.set_text(typed.toStdString()); });
+    // Assistive technology sets a text without a key; what the form shows comes back equal.
+    QObject::connect(&box, &QLineEdit::textChanged, &box, [&](QString const& now) {
+        if (now != to_qt(field.text())) field.set_text(now.toStdString());
+    });
     field.show = [&] { show_text(box, field.text()); };
     field.show();
 }
@@ -62,7 +67,7 @@ void bind(CheckBox& field, QCheckBox& box)
 {
     name_after(field, box);
     box.setText(to_caption(field.caption()));
-    QObject::connect(&box, &QCheckBox::clicked, &box, [&](bool checked) { field.set_state(checked ? 1 : 0); });
+    QObject::connect(&box, &QCheckBox::toggled, &box, [&](bool checked) { field.set_state(checked ? 1 : 0); });
     field.show = [&] { box.setChecked(field.state() == 1); };
     field.show();
 }
@@ -71,7 +76,10 @@ void bind(OptionButton& field, OptionChoice& choice)
 {
     name_after(field, choice);
     choice.setText(to_caption(field.caption()));
-    QObject::connect(&choice, &QRadioButton::clicked, &choice, [&] { field.set_selected(true); });
+    QObject::connect(&choice, &QRadioButton::toggled, &choice, [&](bool on) {
+        if (on) field.set_selected(true);
+        else if (field.selected()) choice.show_selected(true);
+    });
     field.show = [&] { choice.show_selected(field.selected()); };
     field.show();
 }
@@ -87,6 +95,7 @@ void bind(Frame& field, QGroupBox& frame)
 {
     name_after(field, frame);
     frame.setTitle(to_caption(field.caption()));
+    frame.setAccessibleName(to_qt(field.caption()));
 }
 
 void bind(RichTextBox& field, QTextEdit& box)

@@ -95,7 +95,7 @@ QWidget* CombatPage::battle_roll()
     winner->setSpacing(make_.pixels(gap));
     winner->addWidget(make_.label(form_.Label7(0)));
     auto* const name = make_.label(form_.lblWinner, 52);
-    auto* const margin = make_.label(form_.lblWinBy, 36);
+    auto* const margin = make_.label(form_.lblWinBy, 44);
     for (QLabel* const label : {name, margin}) {
         QFont bold = label->font();
         bold.setBold(true);

@@ -3,6 +3,7 @@
 #include "battle/random.h"
 #include "ui/qt/about_box.h"
 #include "ui/qt/help_viewer.h"
+#include "ui/qt/outline_style.h"
 #include "ui/qt/qt_desktop.h"
 #include "ui/qt/window.h"
 
@@ -28,6 +29,7 @@ int main(int argc, char* argv[])
     QApplication const application{argc, argv};
     QCoreApplication::setApplicationName("warhost");
     QGuiApplication::setDesktopFileName("warhost");
+    QApplication::setStyle(new warhost::OutlineStyle);
     QGuiApplication::setWindowIcon(window_icon());
     // No display name: it would be appended to the title of every dialog.
 

@@ -56,7 +56,7 @@ void MiscPanel::resizeEvent(QResizeEvent* event)
 void MiscPanel::make_rows_in_sight()
 {
     int const last = form_.chkMisc.highest();
-    for (int index = static_cast<int>(rows_.size()) + 1; index <= last; ++index) {
+    for (int index = static_cast<int>(rows_.size()); index <= last; ++index) {
         if (scale_.from_twips(form_.chkMisc(index).place.Top) >= height()) return;
         make_row(index);
     }
@@ -98,7 +98,7 @@ void MiscPanel::make_row(int index)
     colour(row);
     box_field.show();
     fit_caption(row);
-    if (!rows_.empty()) setTabOrder(rows_.back().value, row.box);
+    if (rows_.size() > 1) setTabOrder(rows_.back().value, row.box);
     setTabOrder(row.box, row.value);
     row.box->setVisible(box_field.visible);
     row.value->setVisible(value_field.visible);

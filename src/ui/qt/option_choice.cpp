@@ -1,12 +1,22 @@
 #include "ui/qt/option_choice.h"
 
+#include <QButtonGroup>
 #include <QKeyEvent>
 
 #include <algorithm>
 
 namespace warhost {
 
-OptionChoice::OptionChoice(QWidget* parent) : QRadioButton(parent) { setAutoExclusive(false); }
+OptionChoice::OptionChoice(QWidget* parent) : QRadioButton(parent)
+{
+    // Stays auto-exclusive in name, which makes it a radio button for screen readers; the group frees it.
+    auto* group = parent->findChild<QButtonGroup*>(QString{}, Qt::FindDirectChildrenOnly);
+    if (group == nullptr) {
+        group = new QButtonGroup{parent};
+        group->setExclusive(false);
+    }
+    group->addButton(this);
+}
 
 std::vector<OptionChoice*> OptionChoice::group() const
 {
@@ -19,8 +29,8 @@ std::vector<OptionChoice*> OptionChoice::group() const
 
 void OptionChoice::show_selected(bool selected)
 {
-    if (isChecked() == selected) return;
     setChecked(selected);
+    if (!selected && std::ranges::any_of(group(), &OptionChoice::isChecked)) return;
     for (OptionChoice* const member : group()) {
         member->setFocusPolicy(!selected || member == this ? Qt::StrongFocus : Qt::ClickFocus);
     }

@@ -4,6 +4,7 @@
 #include "ui/simulation_report.h"
 
 #include <QDialogButtonBox>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -27,6 +28,7 @@ ReportBox::ReportBox(MessageBox const& report, Tally const& tally, NumberFormat 
     : QDialog(parent)
 {
     setWindowTitle(QString::fromStdString(report.title));
+    if (parent != nullptr) setFont(parent->font()); // the window may have fitted it to the screen
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
 
     auto const battles = static_cast<double>(tally.battles());
@@ -44,8 +46,10 @@ ReportBox::ReportBox(MessageBox const& report, Tally const& tally, NumberFormat 
     column->addWidget(selectable_text(report.text, "Report"));
     column->addWidget(new OutcomeBar{{part(side_a_won, "Side A wins", Qt::SolidPattern), part(tie, "Tied", Qt::NoBrush),
                                       part(side_b_won, "Side B wins", Qt::BDiagPattern)}});
-    column->addWidget(histogram(0, "Side A"));
-    column->addWidget(histogram(1, "Side B"));
+    auto* const histograms = new QHBoxLayout; // side by side, so that the whole fits a small screen
+    histograms->addWidget(histogram(0, "Side A"));
+    histograms->addWidget(histogram(1, "Side B"));
+    column->addLayout(histograms);
     column->addWidget(selectable_text(simulation_margin(tally, format), "How far the numbers may be off"));
     auto* const buttons = new QDialogButtonBox{QDialogButtonBox::Ok};
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);

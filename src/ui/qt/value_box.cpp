@@ -2,11 +2,13 @@
 
 #include "ui/qt/text.h"
 
+#include <QAccessibleWidget>
 #include <QCompleter>
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPointer>
+#include <QSignalBlocker>
 #include <QStringList>
 #include <QWheelEvent>
 
@@ -18,6 +20,44 @@ namespace warhost {
 namespace {
 
 constexpr int page_of_places = 10;
+
+/// What a screen reader is told: the toolkit's own interface gives an editable box's text for its name.
+class SpokenBox : public QAccessibleWidget {
+public:
+    explicit SpokenBox(QComboBox& box) : QAccessibleWidget(&box, QAccessible::ComboBox), box_(box) {}
+
+    QString text(QAccessible::Text kind) const override
+    {
+        return kind == QAccessible::Value ? box_.currentText() : QAccessibleWidget::text(kind);
+    }
+    int childCount() const override { return 1; }
+    QAccessibleInterface* child(int) const override { return QAccessible::queryAccessibleInterface(box_.lineEdit()); }
+    int indexOfChild(QAccessibleInterface const* child) const override
+    {
+        return child->object() == box_.lineEdit() ? 0 : -1;
+    }
+    QAccessible::State state() const override
+    {
+        auto state = QAccessibleWidget::state();
+        state.expandable = state.hasPopup = state.editable = true;
+        return state;
+    }
+    QStringList actionNames() const override { return {showMenuAction(), setFocusAction()}; }
+    void doAction(QString const& name) override
+    {
+        if (name == showMenuAction()) box_.showPopup();
+        else QAccessibleWidget::doAction(name);
+    }
+
+private:
+    QComboBox& box_;
+};
+
+QAccessibleInterface* spoken_box(QString const&, QObject* object)
+{
+    auto* const box = dynamic_cast<ValueBox*>(object);
+    return box != nullptr ? new SpokenBox{*box} : nullptr;
+}
 
 } // namespace
 
@@ -35,14 +75,17 @@ void ValueBox::put_line_edit()
 
 ValueBox::ValueBox(ComboBox& field) : field_(field)
 {
+    static bool const installed = (QAccessible::installFactory(spoken_box), true);
+    static_cast<void>(installed);
     put_line_edit();
     setInsertPolicy(NoInsert);
     // Leaving the box or pressing Enter chooses nothing, even when the typed text is in the list.
     disconnect(lineEdit(), &QLineEdit::returnPressed, this, nullptr);
     disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
     lineEdit()->setMaxLength(std::numeric_limits<int>::max());
-    connect(lineEdit(), &QLineEdit::textEdited, this,
-            [this](QString const& typed) { field_.set_text(typed.toStdString()); });
+    connect(lineEdit(), &QLineEdit::textChanged, this, [this](QString const& now) {
+        if (now != to_qt(field_.text())) field_.set_text(now.toStdString());
+    });
     connect(this, &QComboBox::activated, this, [this](int item) { field_.choose(static_cast<std::size_t>(item)); });
 }
 
@@ -57,6 +100,7 @@ void ValueBox::showPopup()
 {
     QStringList proposals;
     for (auto const& item : field_.list()) proposals.push_back(to_qt(item));
+    QSignalBlocker const filling{lineEdit()};
     clear();
     addItems(proposals);
     setCurrentIndex(listed_place());

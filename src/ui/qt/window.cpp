@@ -129,7 +129,7 @@ void Window::make_tab_strip()
     tabs_->setAccessibleName("Screens");
     for (auto const& tab : tab_captions) {
         int const place = tabs_->addTab(to_caption(tab.caption));
-        tabs_->setTabToolTip(place, to_tooltip(to_qt(tab.tooltip)));
+        tabs_->setTabToolTip(place, to_qt(tab.tooltip));
     }
     connect(tabs_, &QTabBar::currentChanged, this, [this](int place) { choose_tab(place + 1); });
     connect(tabs_, &QTabBar::tabBarClicked, this, [this](int place) {
