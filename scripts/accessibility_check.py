@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 """Asks the running program through the accessibility bus for its names, roles and values.
 
-Usage: atspi_check.py PROGRAM. Needs the packages xvfb, dbus, at-spi2-core and python3-pyatspi (hence /usr/bin/python3);
+Usage: accessibility_check.py PROGRAM. Needs the packages xvfb, dbus, at-spi2-core and python3-pyatspi (hence /usr/bin/python3);
 brings its own display and session bus. Prints every fault; exit status 1 when there is one.
 """
 import os

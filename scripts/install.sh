@@ -2,10 +2,12 @@
 # shellcheck shell=bash disable=SC2034
 
 packages_build=(
-    g++ cmake ninja-build libgtest-dev libgmock-dev libbenchmark-dev qt6-base-dev qt6-svg-dev fonts-dejavu-core
+    g++ cmake ninja-build libgtest-dev libgmock-dev libbenchmark-dev qt6-base-dev fonts-dejavu-core
 )
-packages_test=(xvfb)
-packages_check=(clang-14 clang-format-14 clang-tidy-14 libclang-rt-14-dev git)
+packages_check=(
+    clang-14 clang-format-14 clang-tidy-14 libclang-rt-14-dev git
+    xvfb dbus at-spi2-core python3-pyatspi # the accessibility bus
+)
 
 # install_packages NAME...: installs those of the Debian packages that are missing. Stops the script where that cannot
 # be done, saying what to install.

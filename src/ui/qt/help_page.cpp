@@ -3,6 +3,8 @@
 #include "ui/qt/contrast.h"
 #include "ui/qt/help_contents.h"
 
+#include <utility>
+
 #include <QDir>
 #include <QEvent>
 #include <QFileInfo>
@@ -35,7 +37,7 @@ QString plain_page(QString const& title, QString const& text, QString const& mor
 
 } // namespace
 
-HelpPage::HelpPage(QString const& folder, QWidget* parent) : QTextBrowser(parent), folder_(folder)
+HelpPage::HelpPage(QString folder, QWidget* parent) : QTextBrowser(parent), folder_(std::move(folder))
 {
     setObjectName("helpPage");
     setAccessibleName("Page of the manual");

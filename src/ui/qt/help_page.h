@@ -12,7 +12,7 @@ class HelpPage : public QTextBrowser {
     Q_OBJECT
 
 public:
-    explicit HelpPage(QString const& folder, QWidget* parent = nullptr);
+    explicit HelpPage(QString folder, QWidget* parent = nullptr);
 
     void show_entry(HelpEntry const& entry);
     void show_missing_manual();
