@@ -16,9 +16,10 @@ namespace warhost {
 class OptionChoice;
 class ValueBox;
 
-/// Each call names the widget after its field, gives it the field's tool tip and shows the field; only the user's own
-/// doing goes back, so that showing needs no signal to be silenced. The field must outlive the widget's use, and must
-/// not be set any more once the widget is gone.
+/// Each call names the widget after its field, gives it the field's tool tip and shows the field. A text or a state
+/// goes back only when it differs from the field's, which no showing makes it do; so what a user types, ticks or sets
+/// through assistive technology reaches the form, and no signal needs to be silenced. The field must outlive the
+/// widget's use, and must not be set any more once the widget is gone.
 void bind(TextLabel& field, QLabel& label);
 void bind(TextBox& field, QLineEdit& box);
 void bind(ComboBox& field, ValueBox& box);

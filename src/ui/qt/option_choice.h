@@ -7,13 +7,13 @@
 
 namespace warhost {
 
-/// The arrow keys select the neighbours in the same parent, in a circle. While one of a group is selected it is the
-/// group's only stop for the Tab key.
+/// The arrow keys select the neighbours in the same parent, in a circle. A group is one stop for the Tab key: its
+/// selected option, else its first.
 class OptionChoice : public QRadioButton {
 public:
     explicit OptionChoice(QWidget* parent);
 
-    /// Shows the state without any signal.
+    /// Shows the state that the form holds.
     void show_selected(bool selected);
 
 protected:
