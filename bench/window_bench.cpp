@@ -8,6 +8,8 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QMainWindow>
+#include <QMenuBar>
+#include <QWindow>
 
 #include <benchmark/benchmark.h>
 
@@ -36,42 +38,52 @@ private:
     std::string folder_;
 };
 
+/// Returns once the window stands on the screen with its first picture.
+void show_ready(QWidget& window)
+{
+    window.show();
+    while (!window.windowHandle()->isExposed()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    QCoreApplication::processEvents();
+}
+
 struct Program {
     BenchDesktop desktop;
     Generator random{1};
     Main form{desktop, random};
     Window window{form, desktop};
 
-    explicit Program(std::string const& folder) : desktop(folder)
-    {
-        window.show();
-        QCoreApplication::processEvents();
-    }
+    explicit Program(std::string const& folder) : desktop(folder) { show_ready(window); }
 };
 
+// What a child process can show beside the program with the list in a folder.
+constexpr char const* empty_window = "--empty";
+constexpr char const* window_with_menus = "--menus"; // whose captions are the first text, for which fonts are sought
+
 /// What a child process does: shows a window, painted, and ends at once.
-[[noreturn]] void show_once(int argc, char** argv, std::string const& folder)
+[[noreturn]] void show_once(int argc, char** argv, std::string const& what)
 {
     QApplication const application{argc, argv};
-    if (!folder.empty()) {
-        Program const program{folder};
+    if (what != empty_window && what != window_with_menus) {
+        Program const program{what};
         ::_exit(0);
     }
     QMainWindow window;
     window.resize(created_size);
-    window.show();
-    QCoreApplication::processEvents();
+    if (what == window_with_menus) {
+        for (char const* const caption : {"File", "Web Links", "Help"}) window.menuBar()->addMenu(caption);
+    }
+    show_ready(window);
     ::_exit(0);
 }
 
-/// Processor time of a child in milliseconds; the best of `rounds`. folder: of the list, empty for the empty window.
-double child_time(std::string const& folder, int rounds)
+/// Processor time of a child in milliseconds; the best of `rounds`.
+double child_time(std::string const& what, int rounds)
 {
     double best = 1e9;
     for (int round = 0; round < rounds; ++round) {
         pid_t const child = ::fork();
         if (child == 0) {
-            ::execl("/proc/self/exe", "window_bench", "--show", folder.c_str(), nullptr);
+            ::execl("/proc/self/exe", "window_bench", "--show", what.c_str(), nullptr);
             ::_exit(1);
         }
         int status = 0;
@@ -102,10 +114,12 @@ void start(benchmark::State& state)
     constexpr int rounds = 10;
     double window = 0;
     double empty = 0;
+    double menus = 0;
     double long_list = 0;
     std::string const folder = long_list_folder();
     for (auto _ : state) {
-        empty = child_time({}, rounds);
+        empty = child_time(empty_window, rounds);
+        menus = child_time(window_with_menus, rounds);
         window = child_time(program_folder(), rounds);
         long_list = child_time(folder, rounds);
         state.SetIterationTime(window * 1e-3);
@@ -113,9 +127,11 @@ void start(benchmark::State& state)
     ::unlink((folder + "/modif.txt").c_str());
     ::rmdir(folder.c_str());
     state.counters["empty_ms"] = empty;
+    state.counters["menus_ms"] = menus;
     state.counters["window_ms"] = window;
     state.counters["long_list_ms"] = long_list;
     state.counters["window/empty"] = window / empty;
+    state.counters["window/menus"] = window / menus;
     state.counters["long_list/window"] = long_list / window;
 }
 BENCHMARK(start)->UseManualTime()->Iterations(1);

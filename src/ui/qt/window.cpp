@@ -62,7 +62,6 @@ Window::Window(Main& form, QtDesktop& desktop) : form_(form), desktop_(desktop),
     form.Form_Load();
     make_tab_strip();
     make_screens();
-    colour_read_only_boxes();
     client_->installEventFilter(this);
     focus_army_name();
 }
@@ -143,11 +142,20 @@ void Window::make_screens()
 {
     army_ = new ArmyPage{form_, scale_, content_size(form_.FrameArmy, scale_),
                          [this](int topic) { desktop_.show_help(topic); }, client_};
-    combat_ = new CombatPage{form_, scale_, content_size(form_.FrameCombat, scale_), client_};
+    colour_read_only_boxes();
     form_.FrameArmy.show = [this] { place_screen(form_.FrameArmy, *army_); };
-    form_.FrameCombat.show = [this] { place_screen(form_.FrameCombat, *combat_); };
+    form_.FrameCombat.show = [this] {
+        if (combat_ == nullptr && form_.FrameCombat.visible()) make_combat_screen();
+        if (combat_ != nullptr) place_screen(form_.FrameCombat, *combat_);
+    };
     form_.FrameMisc.show = [this] { place_misc_panel(); };
     for (Frame* const frame : {&form_.FrameArmy, &form_.FrameCombat, &form_.FrameMisc}) frame->show();
+}
+
+void Window::make_combat_screen()
+{
+    combat_ = new CombatPage{form_, scale_, content_size(form_.FrameCombat, scale_), client_};
+    colour_read_only_boxes();
 }
 
 void Window::place_tab_strip()

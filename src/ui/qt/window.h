@@ -33,6 +33,7 @@ private:
     void make_menus();
     void make_tab_strip();
     void make_screens();
+    void make_combat_screen();
     void fit_to_screen();
     void follow_size();
     void place_tab_strip();
@@ -52,7 +53,7 @@ private:
     TabPage* tab_page_ = nullptr;
     QTabBar* tabs_ = nullptr;
     ArmyPage* army_ = nullptr;
-    CombatPage* combat_ = nullptr;
+    CombatPage* combat_ = nullptr; // made when it is first shown, not to slow the start
 };
 
 } // namespace warhost

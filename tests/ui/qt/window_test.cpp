@@ -45,6 +45,7 @@ TEST(Window, what_is_typed_reaches_the_handler_once_per_key)
 TEST(Window, what_a_rule_writes_shows_and_does_not_come_back)
 {
     Screen screen;
+    for (int const tab : {3, 1}) screen.choose_tab(tab);
     for (auto const& [box, typed] : {std::pair{"txtUnitNum(2)", " men"}, {"txtUnitNum(3)", "40"}}) {
         QTest::keyClick(&screen.named<QLineEdit>(box), Qt::Key_End); // behind the 0
         QTest::keyClicks(&screen.named<QLineEdit>(box), typed);
@@ -207,6 +208,7 @@ TEST(Window, every_control_is_there_once_under_its_name)
         "Frame7 txtLoserCasualty txtVictorCasRoll cmdRollCasualty txtCasRollBonus chkPlus5 chkMinus5 lblCasRange "
         "cmdRollVictorCas txtVictorCasPercent lblLoserPercent Label13 txtVictorCas frmSideA Frame8 txtAName(0-15) "
         "txtANum(0-15) txtLoses(0-15) cmdApplyCasualties(0-1) Frame9 Label10 txtBattleResults Label11 txtVictorDesc cmdSimulate");
+    screen.choose_tab(3);
     for (QString const& name : names) {
         EXPECT_EQ(screen.window.findChildren<QObject*>(name).size(), 1) << name.toStdString();
     }
