@@ -1,29 +1,52 @@
 #include "ui/qt/tab_page.h"
 
+#include <QMouseEvent>
 #include <QStyle>
 #include <QStyleOptionTabWidgetFrame>
 #include <QStylePainter>
+#include <QWheelEvent>
 
 namespace warhost {
 
-TabPage::TabPage(int tab_height, QWidget* parent) : QWidget(parent), tabs_(new TabBar{tab_height, this})
+TabPage::TabPage(int tab_height, QWidget* parent) : QTabBar(parent), tab_height_(tab_height)
 {
-    tabs_->setDrawBase(false);
-    tabs_->setExpanding(false);
-    tabs_->move(0, 0);
+    setDrawBase(false);
+    setExpanding(false);
 }
 
-void TabPage::paintEvent(QPaintEvent*)
+void TabPage::draw_page(QRect const& part)
 {
     QStyleOptionTabWidgetFrame option;
     option.initFrom(this);
-    option.shape = tabs_->shape();
-    option.tabBarSize = tabs_->size();
-    option.tabBarRect = tabs_->geometry();
-    option.selectedTabRect = tabs_->tabRect(tabs_->currentIndex());
+    option.shape = shape();
+    option.tabBarSize = sizeHint();
+    option.tabBarRect = QRect{QPoint{}, option.tabBarSize};
+    option.selectedTabRect = tabRect(currentIndex());
     option.lineWidth = style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, this);
-    option.rect.setTop(tabs_->height() - style()->pixelMetric(QStyle::PM_TabBarBaseOverlap, &option, this));
-    QStylePainter{this}.drawPrimitive(QStyle::PE_FrameTabWidget, option);
+    option.rect.setTop(tab_height_ - style()->pixelMetric(QStyle::PM_TabBarBaseOverlap, &option, this));
+    QStylePainter painter{this};
+    painter.setClipRect(part);
+    painter.drawPrimitive(QStyle::PE_FrameTabWidget, option);
+}
+
+void TabPage::paintEvent(QPaintEvent* event)
+{
+    draw_page(rect());
+    QTabBar::paintEvent(event);
+    draw_page(
+        rect().adjusted(0, tab_height_, 0, 0)); // styles let the chosen tab reach down, and count on a strip's end
+}
+
+void TabPage::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton) QTabBar::mousePressEvent(event);
+    else event->ignore();
+}
+
+void TabPage::wheelEvent(QWheelEvent* event)
+{
+    if (tabAt(event->position().toPoint()) >= 0) QTabBar::wheelEvent(event);
+    else event->ignore();
 }
 
 } // namespace warhost

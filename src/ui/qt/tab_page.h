@@ -1,35 +1,27 @@
-// The page area of a tab widget whose pages stand elsewhere, and the strip of tabs on its upper edge.
+// A strip of tabs over the page area below it; the pages stand elsewhere.
 #pragma once
 
 #include <QTabBar>
-#include <QWidget>
 
 namespace warhost {
 
-/// A tab strip of a given height.
-class TabBar : public QTabBar {
+/// The strip keeps its height whatever the widget's; the rest of the widget is the page's frame. Only the left button
+/// chooses a tab.
+class TabPage : public QTabBar {
 public:
-    TabBar(int tab_height, QWidget* parent) : QTabBar(parent), tab_height_(tab_height) {}
+    TabPage(int tab_height, QWidget* parent);
 
 protected:
     QSize tabSizeHint(int index) const override { return {QTabBar::tabSizeHint(index).width(), tab_height_}; }
     QSize minimumTabSizeHint(int index) const override { return tabSizeHint(index); }
-
-private:
-    int tab_height_;
-};
-
-class TabPage : public QWidget {
-public:
-    TabPage(int tab_height, QWidget* parent);
-
-    QTabBar& tabs() const { return *tabs_; }
-
-protected:
     void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
 
 private:
-    QTabBar* tabs_;
+    void draw_page(QRect const& part);
+
+    int tab_height_;
 };
 
 } // namespace warhost

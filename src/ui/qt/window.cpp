@@ -17,7 +17,6 @@
 #include <QSignalBlocker>
 #include <QStyle>
 
-#include <algorithm>
 #include <array>
 
 namespace warhost {
@@ -122,8 +121,7 @@ void Window::fit_to_screen()
 
 void Window::make_tab_strip()
 {
-    tab_page_ = new TabPage{scale_.from_base(tab_height), client_};
-    tabs_ = &tab_page_->tabs();
+    tabs_ = new TabPage{scale_.from_base(tab_height), client_};
     name_after(form_.TabStrip, *tabs_);
     tabs_->setAccessibleName("Screens");
     for (auto const& tab : tab_captions) {
@@ -165,11 +163,10 @@ void Window::place_tab_strip()
     QPoint const place{scale_.from_twips(box.Left), scale_.from_twips(box.Top)};
     int const margin = scale_.from_base(4);
     QSize const room{client_->width() - place.x() - margin, client_->height() - place.y() - margin};
-    tab_page_->setGeometry(QRect{place, scrolls_ ? size.boundedTo(room) : size});
+    tabs_->setGeometry(QRect{place, scrolls_ ? size.boundedTo(room) : size});
     QSignalBlocker const only_shown{tabs_};
     tabs_->setCurrentIndex(form_.TabStrip.position() - 1);
-    tabs_->resize(std::min(tabs_->sizeHint().width(), tab_page_->width()), tabs_->sizeHint().height());
-    tab_page_->update();
+    tabs_->update();
 }
 
 void Window::place_screen(Frame const& frame, ScreenArea& screen)

@@ -6,8 +6,6 @@
 
 #include <QMainWindow>
 
-class QTabBar;
-
 namespace warhost {
 
 class ArmyPage;
@@ -50,8 +48,7 @@ private:
     bool asks_to_quit_ = false;
     QSize extra_{0, 0}; // what the scroll bars take from the client area
     QWidget* client_;
-    TabPage* tab_page_ = nullptr;
-    QTabBar* tabs_ = nullptr;
+    TabPage* tabs_ = nullptr;
     ArmyPage* army_ = nullptr;
     CombatPage* combat_ = nullptr; // made when it is first shown, not to slow the start
 };

@@ -168,6 +168,7 @@ TEST(Window, the_four_containers_follow_the_windows_size)
 {
     Screen screen;
     auto const panel_height = screen.named<QWidget>("FrameMisc").height();
+    EXPECT_EQ(screen.named<QWidget>("TabStrip").size(), QSize(852, 633));
     auto const name_place = screen.named<QWidget>("txtArmyName").mapTo(&screen.window, QPoint{});
     EXPECT_EQ(screen.form.FrameMisc.box(), (Frame::Box{6360, 360, 6120, 8520}));
     screen.window.resize(screen.window.size() + QSize{100, -200});
