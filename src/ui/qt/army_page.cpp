@@ -23,8 +23,8 @@ namespace {
 constexpr int row_height = 20; // pixels of the base size, as all lengths here
 constexpr int gap = 4;
 constexpr int result_width = 50;
-constexpr int narrow_result_width = 44; // in frames side by side, whose values have one digit
-constexpr int left_width = 190;
+constexpr int narrow_result_width = 43; // in frames side by side, whose values have one digit
+constexpr int left_width = 188;
 constexpr int soldiers_width = 56;
 constexpr int ratio_width = 54;
 constexpr int bonus_width = 24;
@@ -110,8 +110,8 @@ QLayout* ArmyPage::middle_column()
         column->addWidget(category(index, *frame, result_width));
         column->addStretch();
     }
-    pair->addWidget(category(7, form_.Frame11, narrow_result_width), 1);
-    pair->addWidget(category(4, form_.Frame4, narrow_result_width), 1);
+    pair->addWidget(category(7, form_.Frame11, narrow_result_width), 15);
+    pair->addWidget(category(4, form_.Frame4, narrow_result_width), 16); // the longer caption
     column->addLayout(pair);
     return column;
 }

@@ -13,6 +13,7 @@
 #include <QRadioButton>
 #include <QStyle>
 #include <QStyleOptionButton>
+#include <QStyleOptionGroupBox>
 #include <QTextEdit>
 
 #include <algorithm>
@@ -79,7 +80,13 @@ Content content_of(QWidget& widget)
         return {button->style()->subElementRect(part, &option, button), button->text().replace("&&", "&")};
     }
     if (auto* const frame = qobject_cast<QGroupBox*>(&widget)) {
+        QStyleOptionGroupBox option;
+        option.initFrom(frame);
+        option.text = frame->title();
+        option.subControls = QStyle::SC_GroupBoxFrame | QStyle::SC_GroupBoxLabel;
         QRect room = frame->rect();
+        room.setLeft(
+            frame->style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxLabel, frame).left());
         for (auto* const result : frame->findChildren<QComboBox*>()) {
             if (result->y() == 0) room.setRight(result->x() - 1);
         }

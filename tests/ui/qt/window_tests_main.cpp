@@ -33,7 +33,7 @@ int main(int argc, char* argv[])
     describe_screen(path, qgetenv("WARHOST_TEST_SCREEN"));
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + path.toUtf8());
     QApplication const application{argc, argv};
-    QApplication::setStyle("fusion");
+    QApplication::setStyle(qEnvironmentVariable("WARHOST_TEST_STYLE", "fusion"));
     QApplication::setQuitOnLastWindowClosed(false);
     return RUN_ALL_TESTS();
 }
