@@ -3,10 +3,10 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <string>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
-#include <utility>
 
 namespace warhost {
 
@@ -15,6 +15,30 @@ namespace {
 void require(bool succeeded)
 {
     if (!succeeded) throw std::system_error{errno, std::generic_category()};
+}
+
+std::filesystem::path temporary_name(std::filesystem::path const& folder, int number)
+{
+    return folder / (".warhost-" + std::to_string(number) + ".tmp");
+}
+
+/// A lock that lasts until the descriptor is closed, by the system at the latest. Denied only when another save holds
+/// it: where there are no locks, everyone has his.
+bool lock(int descriptor) { return ::flock(descriptor, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK; }
+
+/// Removes the temporary file of a save that was killed: one that nobody has locked. False when it must stay.
+bool remove_abandoned(std::filesystem::path const& name)
+{
+    int const descriptor = ::open(name.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+    if (descriptor < 0) return errno == ENOENT;
+    struct stat opened = {};
+    struct stat named = {};
+    // A name that still leads to the locked file is nobody's: its owner would have kept the lock until renaming it.
+    bool const removed = ::flock(descriptor, LOCK_EX | LOCK_NB) == 0 && ::fstat(descriptor, &opened) == 0 &&
+                         ::lstat(name.c_str(), &named) == 0 && opened.st_dev == named.st_dev &&
+                         opened.st_ino == named.st_ino && ::unlink(name.c_str()) == 0;
+    ::close(descriptor);
+    return removed;
 }
 
 /// A new file in a folder. Nameless, nothing of it stays behind whatever happens before it is put in place; but not
@@ -26,8 +50,8 @@ public:
     NewFile& operator=(NewFile const&) = delete;
     ~NewFile()
     {
-        if (descriptor_ >= 0) ::close(descriptor_);
         if (!name_.empty()) ::unlink(name_.c_str());
+        if (descriptor_ >= 0) ::close(descriptor_);
     }
 
     /// False where nameless files are unknown.
@@ -36,14 +60,20 @@ public:
         descriptor_ = ::open(folder_.c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, 0666);
         bool const unknown = errno == EOPNOTSUPP || errno == EISDIR || errno == EINVAL || errno == ENOENT;
         require(descriptor_ >= 0 || unknown);
-        return descriptor_ >= 0;
+        return descriptor_ >= 0 && lock(descriptor_);
     }
 
     void open_named()
     {
         auto const create = [&] {
             descriptor_ = ::open(name_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-            return descriptor_ >= 0;
+            if (descriptor_ < 0) return false;
+            struct stat own = {};
+            if (lock(descriptor_) && ::fstat(descriptor_, &own) == 0 && own.st_nlink > 0) return true;
+            ::close(descriptor_); // taken for abandoned before it was locked
+            descriptor_ = -1;
+            errno = EEXIST;
+            return false;
         };
         require(find_name(create));
     }
@@ -80,7 +110,6 @@ public:
             if (link_to(target)) return true;
             if (errno != EEXIST || !find_name([&] { return link_to(name_); })) return false;
         }
-        require(::close(std::exchange(descriptor_, -1)) == 0);
         require(::rename(name_.c_str(), target.c_str()) == 0);
         name_.clear();
         return true;
@@ -90,11 +119,14 @@ private:
     /// Puts one unused name after another into name_ until make succeeds; false, and no name, when it fails otherwise.
     template <class Make> bool find_name(Make make)
     {
-        for (int attempt = 0;; ++attempt) {
-            name_ = folder_ / (".warhost-" + std::to_string(::getpid()) + "-" + std::to_string(attempt) + ".tmp");
+        for (int number = 0;;) {
+            name_ = temporary_name(folder_, number);
             if (make()) return true;
             int const cause = errno;
-            if (cause == EEXIST) continue;
+            if (cause == EEXIST) {
+                if (!remove_abandoned(name_)) ++number;
+                continue;
+            }
             name_.clear(); // it names no file of ours
             errno = cause;
             return false;
@@ -129,8 +161,10 @@ void replace_durably(std::filesystem::path const& target, std::string_view bytes
     auto const folder = target.has_parent_path() ? target.parent_path() : std::filesystem::path{"."};
     // A file marked read-only stays, although a rename could replace it.
     if (::faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) != 0) require(errno == ENOENT);
+    remove_abandoned(temporary_name(folder, 0));
     struct stat old = {};
     bool const replaces = ::stat(target.c_str(), &old) == 0;
+    require(replaces || errno == ENOENT);
     for (bool const nameless : {true, false}) {
         NewFile file{folder};
         if (nameless && !file.open_nameless()) continue;
