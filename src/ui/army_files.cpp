@@ -42,7 +42,9 @@ void Main::cmdLoadArmy_Click()
                                                 .folder_must_exist = true,
                                                 .hide_read_only = true});
         if (!path) return;
-        if (!FileExists(*path)) {
+        bool exists = false;
+        desktop_.wait_for([&] { exists = FileExists(*path); });
+        if (!exists) {
             desktop_.message_box({.text = "File not found."});
             return;
         }
@@ -76,13 +78,20 @@ void Main::cmdSaveArmy_Click()
 
 void Main::LoadArmy(std::string const& path)
 {
-    step([&] { CurArmy = decode_army(read_file(path)); });
+    step([&] {
+        std::string bytes;
+        desktop_.wait_for([&] { bytes = read_file(path); });
+        CurArmy = decode_army(bytes);
+    });
     ErrReport("Loading an army");
 }
 
 void Main::SaveArmy(std::string const& path)
 {
-    step([&] { replace_file(path, encode_army(CurArmy)); });
+    step([&] {
+        std::string const bytes = encode_army(CurArmy);
+        desktop_.wait_for([&] { replace_file(path, bytes); });
+    });
     ErrReport("Saving an army");
 }
 

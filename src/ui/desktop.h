@@ -4,6 +4,7 @@
 #include "army/value_conversion.h"
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -67,6 +68,10 @@ public:
     /// A simulation has fought so many of its battles; called every few milliseconds, the last time with all of them.
     /// The user gets no control.
     virtual void show_progress(std::int32_t /*fought*/, std::int32_t /*battles*/) {}
+
+    /// Runs work that waits for a disk or a network folder, and returns when it is done; what it throws is thrown here.
+    /// The user is told when it takes long, and gets no control.
+    virtual void wait_for(std::function<void()> const& work) { work(); }
 
     /// The text typed; empty when cancelled.
     virtual std::string input_box(InputBox const& box) = 0;

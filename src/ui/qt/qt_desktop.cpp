@@ -1,5 +1,6 @@
 #include "ui/qt/qt_desktop.h"
 
+#include "ui/qt/progress_dialog.h"
 #include "ui/qt/report_box.h"
 #include "ui/qt/text.h"
 
@@ -16,7 +17,9 @@
 #include <QUrl>
 
 #include <array>
+#include <chrono>
 #include <cstdlib>
+#include <future>
 
 namespace warhost {
 
@@ -100,6 +103,19 @@ void QtDesktop::show_progress(std::int32_t fought, std::int32_t battles)
 {
     if (!progress_) progress_.emplace();
     progress_->show(window_, fought, battles);
+}
+
+void QtDesktop::wait_for(std::function<void()> const& work)
+{
+    using namespace std::chrono_literals;
+    std::future<void> done = std::async(std::launch::async, work);
+    if (done.wait_for(500ms) != std::future_status::ready) {
+        ProgressDialog waiting{window_, program_title, "Waiting"};
+        while (done.wait_for(50ms) != std::future_status::ready) {
+            waiting.show_share(-1, "Waiting for the disk or the network");
+        }
+    }
+    done.get();
 }
 
 std::string QtDesktop::input_box(InputBox const& box)

@@ -1,10 +1,8 @@
 #include "ui/qt/simulation_progress.h"
 
-#include <QCoreApplication>
-#include <QDialog>
-#include <QLabel>
-#include <QProgressBar>
-#include <QVBoxLayout>
+#include "ui/qt/progress_dialog.h"
+
+#include <QString>
 
 namespace warhost {
 
@@ -12,7 +10,6 @@ namespace {
 
 constexpr qint64 first_shown = 500; // milliseconds
 constexpr qint64 between_repaints = 100;
-constexpr int bar_steps = 1000;
 
 QString time_left(qint64 elapsed, std::int32_t fought, std::int32_t battles)
 {
@@ -24,34 +21,6 @@ QString time_left(qint64 elapsed, std::int32_t fought, std::int32_t battles)
 
 } // namespace
 
-/// Closes when its owner says so, not by a key.
-class ProgressDialog : public QDialog {
-public:
-    explicit ProgressDialog(QWidget* window) : QDialog(window, Qt::CustomizeWindowHint | Qt::WindowTitleHint)
-    {
-        setWindowTitle("Simulate N Battles");
-        setWindowModality(Qt::ApplicationModal);
-        bar_.setRange(0, bar_steps);
-        bar_.setMinimumWidth(fontMetrics().averageCharWidth() * 50);
-        bar_.setAccessibleName("Battles fought");
-        column_.addWidget(&bar_);
-        column_.addWidget(&left_);
-    }
-
-    void show_share(int steps, QString const& left)
-    {
-        bar_.setValue(steps);
-        left_.setText(left);
-    }
-
-    void reject() override {}
-
-private:
-    QVBoxLayout column_{this};
-    QProgressBar bar_{this};
-    QLabel left_{this};
-};
-
 SimulationProgress::SimulationProgress() { since_start_.start(); }
 
 SimulationProgress::~SimulationProgress() = default;
@@ -61,11 +30,8 @@ void SimulationProgress::show(QWidget* window, std::int32_t fought, std::int32_t
     qint64 const elapsed = since_start_.elapsed();
     if (elapsed < first_shown || elapsed - shown_at_ < between_repaints) return;
     shown_at_ = elapsed;
-    if (!dialog_) dialog_ = std::make_unique<ProgressDialog>(window);
-    dialog_->show_share(static_cast<int>(static_cast<std::int64_t>(fought) * bar_steps / battles),
-                        time_left(elapsed, fought, battles));
-    dialog_->show();
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    if (!dialog_) dialog_ = std::make_unique<ProgressDialog>(window, "Simulate N Battles", "Battles fought");
+    dialog_->show_share(static_cast<double>(fought) / battles, time_left(elapsed, fought, battles));
 }
 
 } // namespace warhost

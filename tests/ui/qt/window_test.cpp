@@ -10,6 +10,10 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QThread>
+#include <QTimer>
+
+#include <atomic>
 
 namespace warhost {
 
@@ -151,6 +155,19 @@ TEST(Window, save_and_load_through_the_menus_and_their_keys)
     screen.choose_tab(3);
     screen.trigger("mnuLoad");
     EXPECT_EQ(screen.desktop.titles.size(), 1U) << "refused while neither side is chosen";
+}
+
+TEST(Window, a_disk_that_keeps_the_user_waiting_is_told)
+{
+    Screen screen;
+    std::atomic<bool> told = false;
+    QTimer::singleShot(700, [&] { told = QApplication::activeModalWidget()->isVisible(); });
+    screen.desktop.wait_for([&] {
+        for (int wait = 0; wait < 500 && !told; ++wait) QThread::msleep(10);
+    });
+    EXPECT_TRUE(told);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    EXPECT_THROW(screen.desktop.wait_for([] { throw Failure{1, "slow"}; }), Failure);
 }
 
 TEST(Window, closing_asks_first)

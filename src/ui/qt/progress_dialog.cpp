@@ -1,0 +1,33 @@
+#include "ui/qt/progress_dialog.h"
+
+#include <QCoreApplication>
+
+namespace warhost {
+
+namespace {
+
+constexpr int bar_steps = 1000;
+
+} // namespace
+
+ProgressDialog::ProgressDialog(QWidget* window, QString const& title, QString const& spoken)
+    : QDialog(window, Qt::CustomizeWindowHint | Qt::WindowTitleHint)
+{
+    setWindowTitle(title);
+    setWindowModality(Qt::ApplicationModal);
+    bar_.setMinimumWidth(fontMetrics().averageCharWidth() * 50);
+    bar_.setAccessibleName(spoken);
+    column_.addWidget(&bar_);
+    column_.addWidget(&text_);
+}
+
+void ProgressDialog::show_share(double share, QString const& text)
+{
+    bar_.setRange(0, share < 0 ? 0 : bar_steps);
+    bar_.setValue(static_cast<int>(share * bar_steps));
+    text_.setText(text);
+    show();
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+} // namespace warhost

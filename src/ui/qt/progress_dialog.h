@@ -1,0 +1,28 @@
+// The modal window that is seen while something takes its time.
+#pragma once
+
+#include <QDialog>
+#include <QLabel>
+#include <QProgressBar>
+#include <QVBoxLayout>
+
+namespace warhost {
+
+/// Takes no input and closes when its owner says so, not by a key.
+class ProgressDialog : public QDialog {
+public:
+    /// spoken: what the bar counts, for a screen reader.
+    ProgressDialog(QWidget* window, QString const& title, QString const& spoken);
+
+    /// share: of the whole, 0 to 1; below 0 it is unknown. The window is shown and painted before this returns.
+    void show_share(double share, QString const& text);
+
+    void reject() override {}
+
+private:
+    QVBoxLayout column_{this};
+    QProgressBar bar_{this};
+    QLabel text_{this};
+};
+
+} // namespace warhost
