@@ -1,3 +1,4 @@
+#include "caught.h"
 #include "files/army_format.h"
 #include "ui/test_desktop.h"
 
@@ -116,6 +117,42 @@ TEST_F(ArmyFiles, that_fail_leave_everything_as_it_was)
     EXPECT_THROW(form.cmdLoadArmy.press(), ProgramEnded);
     EXPECT_EQ(folder.read("x.Army"), "\5");
     EXPECT_EQ(folder.names(), (std::set<std::string>{"modif.txt", "x.Army"}));
+}
+
+TEST_F(ArmyFiles, that_are_cut_or_damaged_anywhere_change_nothing_or_are_carried_as_they_are)
+{
+    Army army;
+    army.Name = "Elves";
+    army.UnitType[30] = "far";
+    army.UnitNum[0] = 50;
+    army.Opt[3] = -1;
+    army.ReservedNumberLists[1].encoded = std::string{"\1\0\1\0\0\0\0\0\0\0abcd", 14};
+    open(army);
+    form.cmdSaveArmy.press();
+    std::string const good = folder.read("x.Army");
+    Army const before = form.ArmyA;
+    auto const load = [&](std::string const& bytes) {
+        folder.write("x.Army", bytes);
+        form.cmdLoadArmy.press();
+    };
+    auto const load_damaged = [&](std::string const& bytes) {
+        desktop.boxes.clear();
+        load(bytes);
+        Failure const failure = caught(decode_army, bytes);
+        ASSERT_TRUE(failure.number == 0 || (form.CurArmy == before && form.ArmyA == before));
+        ASSERT_EQ(desktop.boxes.size(), failure.number != 0);
+        ASSERT_EQ(texts(form.txtArmyName, form.txtUnitType(0)), form.CurArmy.Name + "/" + form.CurArmy.UnitType[0]);
+        if (failure.number != 0) return;
+        std::string const saved = encode_army(decode_army(bytes));
+        ASSERT_EQ(saved, bytes.substr(0, saved.size()));
+        load(good);
+    };
+    for (std::size_t place = 0; place < good.size() && !HasFatalFailure(); ++place) {
+        SCOPED_TRACE(place);
+        load_damaged(good.substr(0, place));
+        for (char const byte : {'\0', '\x7F', '\x80', '\xFF'})
+            if (good[place] != byte) load_damaged(std::string{good}.replace(place, 1, 1, byte));
+    }
 }
 
 } // namespace warhost
