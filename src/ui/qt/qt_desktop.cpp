@@ -95,7 +95,6 @@ Answer QtDesktop::message_box(MessageBox const& box)
 
 void QtDesktop::show_report(MessageBox const& report, Tally const& tally)
 {
-    progress_.reset();
     ReportBox{report, tally, number_format(), window_}.exec();
 }
 
@@ -103,6 +102,7 @@ void QtDesktop::show_progress(std::int32_t fought, std::int32_t battles)
 {
     if (!progress_) progress_.emplace();
     progress_->show(window_, fought, battles);
+    if (fought == battles) progress_.reset();
 }
 
 void QtDesktop::wait_for(std::function<void()> const& work)

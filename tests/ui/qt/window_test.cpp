@@ -1,9 +1,11 @@
 // What the user does reaches the form, what the form writes shows.
 #include "window_fixture.h"
 
-#include "army/modifier_options.h"
+#include "battle/dice.h"
 #include "temporary_folder.h"
+#include "ui/agreement.h"
 #include "ui/qt/option_choice.h"
+#include "ui/qt/text.h"
 #include "ui/qt/value_box.h"
 
 #include <QCheckBox>
@@ -168,6 +170,42 @@ TEST(Window, a_disk_that_keeps_the_user_waiting_is_told)
     EXPECT_TRUE(told);
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
     EXPECT_THROW(screen.desktop.wait_for([] { throw Failure{1, "slow"}; }), Failure);
+}
+
+TEST(Window, whatever_is_clicked_and_typed_the_records_and_the_screen_agree)
+{
+    TemporaryFolder const folder;
+    Screen screen;
+    Generator chance{3};
+    auto const any = [&](int last) { return roll_between(chance, 0, last); };
+    for (int round = 0; round < 1500 && !testing::Test::HasFatalFailure(); ++round) {
+        SCOPED_TRACE(round);
+        screen.desktop.titles.clear();
+        screen.desktop.path = folder.path(any(1) == 0 ? "one.Army" : "two.Army");
+        std::vector<QWidget*> in_reach;
+        for (QWidget* const widget : screen.window.findChildren<QWidget*>()) {
+            bool const is_total = widget->objectName().startsWith("txtTotal"); // holds what is typed over it
+            if (!is_total && widget->isVisible() && (widget->focusPolicy() & Qt::TabFocus) != 0)
+                in_reach.push_back(widget);
+        }
+        QWidget* const widget = in_reach[static_cast<std::size_t>(any(static_cast<int>(in_reach.size()) - 1))];
+        if (any(1) == 0) QTest::mouseClick(widget, Qt::LeftButton, {}, {any(widget->width() - 1), 10});
+        else
+            QTest::keyClicks(widget,
+                             std::array{"7", "-", "x y", "99999", " ", "2.5", "\b"}[static_cast<std::size_t>(any(6))]);
+        if (auto* const list = QApplication::activePopupWidget())
+            QTest::keyClick(list, any(1) == 0 ? Qt::Key_Escape : Qt::Key_Enter);
+        QCoreApplication::processEvents();
+        check_agreement(screen.form);
+        ASSERT_EQ(screen.named<QLineEdit>("txtArmyName").text(), to_qt(screen.form.txtArmyName.text()));
+        for (int row = 0; row < unit_rows; ++row) {
+            auto const& box = screen.named<QLineEdit>(QString{"txtUnitNum(%1)"}.arg(row).toUtf8());
+            ASSERT_EQ(box.text(), to_qt(screen.form.txtUnitNum(row).text()));
+        }
+        for (int k = 0; k < 8; ++k)
+            ASSERT_EQ(screen.named<ValueBox>(QString{"cmbOpt(%1)"}.arg(k).toUtf8()).currentText(),
+                      to_qt(screen.form.cmbOpt(k).text()));
+    }
 }
 
 TEST(Window, closing_asks_first)
