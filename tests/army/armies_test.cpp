@@ -8,18 +8,14 @@
 
 namespace warhost {
 
-constexpr auto overflow = number_of(Fault::overflow);
-
 TEST(LevelBonus, follows_the_rounded_quotient_of_the_levels)
 {
-    // clang-format off
-    struct { float level, other; int bonus; } const cases[] = {
-        {10, 5, 1}, {3, 2, 1}, {5, 2, 1}, {7, 2, 5}, {20, 1, 20}, {1, 20, 0}, {6, 6, 0}, {9, 0, 0}, {0, 0, 0},
-        {4.95F, 3.3F, 1}, {1.49F, 1, 0}, {0.99F, 1, 0}, {3, 1, 3}, {4, 1, 5}, {5, 1, 7}, {6, 1, 9}, {7, 1, 11},
-        {8, 1, 13}, {9, 1, 15}, {10, 1, 17}, {10.5F, 1, 17}, {10.6F, 1, 20}, {11, 1, 20}, {-4, -2, 1}, {-4, 2, 0},
-        {3e38F, 1e-38F, 20}, {NAN, 1, 0}, {1, NAN, 0}, {INFINITY, 1, 0}, {5, INFINITY, 0},
-    };
-    // clang-format on
+    std::tuple<float, float, int> const cases[] = {
+        {10, 5, 1}, {3, 2, 1},           {5, 2, 1},      {7, 2, 5},        {20, 1, 20},      {1, 20, 0},
+        {6, 6, 0},  {9, 0, 0},           {0, 0, 0},      {4.95F, 3.3F, 1}, {1.49F, 1, 0},    {0.99F, 1, 0},
+        {3, 1, 3},  {4, 1, 5},           {5, 1, 7},      {6, 1, 9},        {7, 1, 11},       {8, 1, 13},
+        {9, 1, 15}, {10, 1, 17},         {10.5F, 1, 17}, {10.6F, 1, 20},   {11, 1, 20},      {-4, -2, 1},
+        {-4, 2, 0}, {3e38F, 1e-38F, 20}, {NAN, 1, 0},    {1, NAN, 0},      {INFINITY, 1, 0}, {5, INFINITY, 0}};
     for (auto const& [level, other, bonus] : cases)
         EXPECT_EQ(level_bonus(level, other), bonus) << level << " : " << other;
 }
@@ -46,8 +42,8 @@ TEST(Armies, total_every_category_the_ticked_misc_values_and_both_bonuses)
         EXPECT_EQ(armies.ArmyB.TotalMod, tab == 1 ? 4626 : 0) << tab;
     }
     army.OptValue[7] = armies.ArmyB.OptValue[7] = 2147483647;
-    EXPECT_EQ(caught([&] { armies.CalcArmyTotal(); }).number, overflow);
-    EXPECT_EQ(caught([&] { armies.CalcOtherTotal(1); }).number, overflow);
+    EXPECT_EQ(caught([&] { armies.CalcArmyTotal(); }).number, number_of(Fault::overflow));
+    EXPECT_EQ(caught([&] { armies.CalcOtherTotal(1); }).number, number_of(Fault::overflow));
     EXPECT_EQ(std::pair(army.TotalMod, armies.ArmyB.TotalMod), std::pair(4626, 0));
 }
 

@@ -11,15 +11,13 @@ NumberFormat const spaced{",", "\u202F"};
 
 TEST(LeadingNumber, is_the_longest_prefix_that_is_a_number)
 {
-    // clang-format off
-    struct { char const* text; double value; } const cases[] = {
-        {"+5", 5}, {"5,20", 5}, {"1 2", 12}, {"3 to 4", 3}, {"abc", 0}, {"", 0}, {"2.5", 2.5}, {"1e3", 1000},
-        {"&H10", 16}, {"&hfFg", 255}, {"&o178", 15}, {"& H 1 0", 16}, {"-&H10", 0}, {"&", 0}, {"&H", 0}, {".6", 0.6},
-        {"-.5", -0.5}, {"1.e3", 1000}, {"2 d20", 2e20}, {"25D-1", 2.5}, {"1e", 1}, {"1e+", 1}, {"1e2e3", 100},
-        {"1.2.3", 1.2}, {"-", 0}, {"+", 0}, {".", 0}, {"--5", 0}, {"5-3", 5}, {"\t1\n2", 12}, {"1\r2", 1}, {"\r1", 0},
-        {"inf", 0}, {"nan", 0}, {"0x10", 0}, {"0e99999999999999999999", 0},
-    };
-    // clang-format on
+    std::pair<char const*, double> const cases[] = {
+        {"+5", 5},       {"5,20", 5},    {"1 2", 12},  {"3 to 4", 3},  {"abc", 0},     {"", 0},
+        {"2.5", 2.5},    {"1e3", 1000},  {"&H10", 16}, {"&hfFg", 255}, {"&o178", 15},  {"& H 1 0", 16},
+        {"-&H10", 0},    {"&", 0},       {"&H", 0},    {".6", 0.6},    {"-.5", -0.5},  {"1.e3", 1000},
+        {"2 d20", 2e20}, {"25D-1", 2.5}, {"1e", 1},    {"1e+", 1},     {"1e2e3", 100}, {"1.2.3", 1.2},
+        {"-", 0},        {"+", 0},       {".", 0},     {"--5", 0},     {"5-3", 5},     {"\t1\n2", 12},
+        {"1\r2", 1},     {"\r1", 0},     {"inf", 0},   {"nan", 0},     {"0x10", 0},    {"0e99999999999999999999", 0}};
     for (auto const& [text, value] : cases) EXPECT_DOUBLE_EQ(leading_number(text), value) << text;
 }
 
@@ -63,12 +61,10 @@ TEST(Texts, of_numbers_round_their_decimal_value_with_halves_away_from_zero)
     for (auto const& [size, text] :
          {std::pair{1665, "16,7"}, {1664, "16,6"}, {-1665, "-16,7"}, {-4, "0,0"}, {0, "0,0"}})
         EXPECT_EQ(hundredths_as_tenths(size, comma), text);
-    // clang-format off
-    struct { double value; char const* text; } const cases[] = {
-        {16.65, "16.7"}, {0, "0.0"}, {110, "110.0"}, {8.75, "8.8"}, {12.25, "12.3"}, {12.35, "12.4"}, {0.05, "0.1"},
-        {0.049, "0.0"}, {99.95, "100.0"}, {1.0 / 3, "0.3"}, {2.5, "2.5"}, {51.2, "51.2"}, {16.65F, "16.6"},
-    };
-    // clang-format on
+    std::pair<double, char const*> const cases[] = {{16.65, "16.7"},  {0, "0.0"},       {110, "110.0"}, {8.75, "8.8"},
+                                                    {12.25, "12.3"},  {12.35, "12.4"},  {0.05, "0.1"},  {0.049, "0.0"},
+                                                    {99.95, "100.0"}, {1.0 / 3, "0.3"}, {2.5, "2.5"},   {51.2, "51.2"},
+                                                    {16.65F, "16.6"}};
     for (auto const& [value, text] : cases) EXPECT_EQ(one_decimal(value, point), text) << value;
 }
 

@@ -15,9 +15,8 @@ namespace {
 template <class Table, class Text> std::uint64_t fingerprint(Table const& table, Text const& text_of)
 {
     std::uint64_t hash = 0xCBF29CE484222325;
-    for (auto const& row : table) {
+    for (auto const& row : table)
         for (char const c : text_of(row) + "\n") hash = (hash ^ static_cast<unsigned char>(c)) * 0x100000001B3;
-    }
     return hash;
 }
 
@@ -34,14 +33,11 @@ TEST(Tables, keep_their_texts_to_the_letter_double_blanks_and_last_blanks_includ
 
 TEST(OutcomeTable, steps_exactly_at_each_margin)
 {
-    // clang-format off
-    struct { int first, last, percent; } const rows[] = {
-        {0, 0, 10}, {1, 2, 10}, {3, 4, 15}, {5, 6, 20}, {7, 8, 25}, {9, 10, 30}, {11, 13, 45}, {14, 16, 50},
-        {17, 20, 65}, {21, 23, 75}, {24, 27, 85}, {28, 30, 90}, {31, 10000, 100},
-    };
-    constexpr int bonuses[][2] = {{0, 0}, {4, 0}, {5, 1}, {9, 1}, {10, 2}, {14, 2}, {15, 3}, {19, 3}, {20, 4}, {24, 4},
-                                  {25, 5}, {64000, 5}};
-    // clang-format on
+    std::array<int, 3> const rows[] = {{0, 0, 10},   {1, 2, 10},   {3, 4, 15},      {5, 6, 20},   {7, 8, 25},
+                                       {9, 10, 30},  {11, 13, 45}, {14, 16, 50},    {17, 20, 65}, {21, 23, 75},
+                                       {24, 27, 85}, {28, 30, 90}, {31, 10000, 100}};
+    constexpr int bonuses[][2] = {{0, 0},  {4, 0},  {5, 1},  {9, 1},  {10, 2}, {14, 2},
+                                  {15, 3}, {19, 3}, {20, 4}, {24, 4}, {25, 5}, {64000, 5}};
     for (auto const& [first, last, percent] : rows) {
         EXPECT_TRUE(outcome_of(first) == outcome_of(last) && outcome_of(last) != outcome_of(last + 1)) << first;
         EXPECT_EQ(outcome_of(first)->percent, percent) << first;
@@ -79,12 +75,9 @@ TEST(VictorTable, takes_the_first_row_that_applies)
 
 TEST(Losses, round_halves_away_from_zero_and_never_stop_at_zero)
 {
-    // clang-format off
-    struct { int soldiers, percent, loss; } const cases[] = {
-        {25, 10, 3}, {15, 10, 2}, {5, 10, 1}, {4, 10, 0}, {250, 45, 113}, {0, 100, 0}, {10, 110, 11}, {-25, 10, -3},
-        {-4, 10, 0}, {-15, 90, -14}, {100, -5, -5}, {2000000000, 100, 2000000000},
-    };
-    // clang-format on
+    std::array<int, 3> const cases[] = {{25, 10, 3},    {15, 10, 2},    {5, 10, 1},    {4, 10, 0},
+                                        {250, 45, 113}, {0, 100, 0},    {10, 110, 11}, {-25, 10, -3},
+                                        {-4, 10, 0},    {-15, 90, -14}, {100, -5, -5}, {2000000000, 100, 2000000000}};
     for (auto const& [soldiers, percent, loss] : cases) EXPECT_EQ(row_loss(soldiers, percent), loss) << soldiers;
 }
 

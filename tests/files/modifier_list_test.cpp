@@ -6,8 +6,6 @@
 namespace warhost {
 namespace {
 
-using namespace std::string_literals;
-
 /// "name/topic/low..high/initial" of each entry.
 std::string read(std::string const& bytes)
 {

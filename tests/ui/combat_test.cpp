@@ -196,19 +196,5 @@ TEST_F(CombatScreen, simulates_and_reports_wins_ties_and_average_casualties)
     EXPECT_TRUE(form.battle.VictorCasualty == 16.65F && random.values.empty());
 }
 
-TEST(Simulation, has_a_fingerprint)
-{
-    TestDesktop desktop;
-    Generator random{20};
-    Main form{desktop, random};
-    form.txtTotalMod(0).set_text("3");
-    form.txtTotalMod(1).set_text("1");
-    desktop.typed = "1000";
-    form.cmdSimulate.press();
-    EXPECT_EQ(desktop.boxes.back(), report({"57.2", "13.9", "39.6", "19.2", "3.2"}));
-    EXPECT_EQ(texts(form.txtResult(0), form.txtResult(1), form.txtVictorCasRoll, form.txtVictorCas), "8/18/9/9.6");
-    EXPECT_EQ(random.next(), 1431769798 * 0x1p-32);
-}
-
 } // namespace
 } // namespace warhost

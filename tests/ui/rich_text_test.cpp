@@ -46,8 +46,7 @@ TEST(RichText, the_form_s_own_documents_show_their_text_look_and_lines)
 
 TEST(RichText, markup_ends_where_it_should_and_unknown_markup_shows_nothing)
 {
-    // clang-format off
-    struct { char const *story, *document, *expected; } const rows[] = {
+    std::array<char const*, 3> const rows[] = {
         {"one blank belongs to a word", R"({\rtf1 a\b  b\b0 c})", "a[ b]c"},
         {"a group takes its look back", R"({\rtf1 a{\b b{\b0 c}d}e})", "a[b]c[d]e"},
         {"escaped", R"({\rtf1 \\b\{\}})", "\\b{}"},
@@ -61,9 +60,7 @@ TEST(RichText, markup_ends_where_it_should_and_unknown_markup_shows_nothing)
         {"half a character", R"({\rtf1 \u-10179?a\u-8704?})", "\uFFFDa\uFFFD"},
         {"line ends of the file", "{\\rtf1 a\r\nb\\par\r\nc\\line d}", "ab|c|d"},
         {"binary data", R"({\rtf1 a\bin3 {}}b})", "ab"},
-        {"nothing behind the end", R"({\rtf1 a}b\par{c)", "a"},
-    };
-    // clang-format on
+        {"nothing behind the end", R"({\rtf1 a}b\par{c)", "a"}};
     for (auto const& [story, document, expected] : rows) EXPECT_EQ(told(document), expected) << story;
 }
 

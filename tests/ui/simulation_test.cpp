@@ -5,12 +5,9 @@
 namespace warhost {
 namespace {
 
-/// What the combat screen holds before the simulation.
-struct Start {
-    int modifier_a, modifier_b, result_a, result_b, victor_roll;
-    bool plus5, minus5;
-    int bonus;
-};
+/// What the combat screen holds before the simulation: both modifiers, both results, the victor's roll and its bonus,
+/// and whether +5 and -5 are checked.
+using Start = std::array<int, 8>;
 
 struct Fighter {
     TestDesktop desktop;
@@ -20,14 +17,11 @@ struct Fighter {
     Fighter(Start const& start, std::uint64_t seed) : generator(seed)
     {
         form.txtUnitNum(0).set_text("1234");
-        form.txtTotalMod(0).set_text(plain_text(start.modifier_a));
-        form.txtTotalMod(1).set_text(plain_text(start.modifier_b));
-        form.txtResult(0).set_text(plain_text(start.result_a));
-        form.txtResult(1).set_text(plain_text(start.result_b));
-        form.txtVictorCasRoll.set_text(plain_text(start.victor_roll));
-        form.chkPlus5.set_state(start.plus5 ? 1 : 0);
-        form.chkMinus5.set_state(start.minus5 ? 1 : 0);
-        form.txtCasRollBonus.set_text(plain_text(start.bonus));
+        TextBox* const boxes[] = {&form.txtTotalMod(0), &form.txtTotalMod(1),   &form.txtResult(0),
+                                  &form.txtResult(1),   &form.txtVictorCasRoll, &form.txtCasRollBonus};
+        for (std::size_t i = 0; i < std::size(boxes); ++i) boxes[i]->set_text(plain_text(start[i]));
+        form.chkPlus5.set_state(start[6]);
+        form.chkMinus5.set_state(start[7]);
     }
 
     std::string screen()
@@ -63,23 +57,23 @@ struct Fighter {
 
 TEST(SimulateCommand, leaves_what_as_many_battles_on_the_screen_leave)
 {
-    // clang-format off
-    Start const starts[] = {
-        {0, 0, 0, 0, 0, false, false, 0}, {3, 1, 5, 7, 1, true, false, 0}, {10, 0, 3, 3, 20, false, false, 3},
-        {25, 0, 10, 4, 20, true, true, 0}, {-32000, 32000, 2, 19, 1, false, true, 2},
-        {31990, 32000, 9, 32000, 20, true, false, -5}, {-31995, -32000, 1, -31990, 1, false, false, 1},
-        {0, 18, 7, 12, 500, false, false, 0}, {2, 0, -4, 9999, -4, false, true, 32000},
-    };
-    // clang-format on
+    Start const starts[] = {{0, 0, 0, 0, 0, 0, 0, 0},
+                            {3, 1, 5, 7, 1, 0, 1, 0},
+                            {10, 0, 3, 3, 20, 3, 0, 0},
+                            {25, 0, 10, 4, 20, 0, 1, 1},
+                            {-32000, 32000, 2, 19, 1, 2, 0, 1},
+                            {31990, 32000, 9, 32000, 20, -5, 1, 0},
+                            {-31995, -32000, 1, -31990, 1, 1, 0, 0},
+                            {0, 18, 7, 12, 500, 0, 0, 0},
+                            {2, 0, -4, 9999, -4, 32000, 0, 1}};
     for (auto const& start : starts) {
         for (std::uint64_t seed = 1; seed <= 12; ++seed) {
             int const battles = seed % 4 == 0 ? 1 : static_cast<int>(30 * seed);
-            SCOPED_TRACE(testing::Message() << start.modifier_a << "/" << start.modifier_b << ", seed " << seed);
+            SCOPED_TRACE(testing::Message() << start[0] << "/" << start[1] << ", seed " << seed);
             Fighter quick{start, seed}, slow{start, seed};
             quick.desktop.typed = plain_text(battles);
             quick.form.cmdSimulate_Click();
-            std::string const expected = slow.fight_on_the_screen(battles);
-            ASSERT_EQ(quick.desktop.boxes.back(), expected);
+            ASSERT_EQ(quick.desktop.boxes.back(), slow.fight_on_the_screen(battles));
             ASSERT_EQ(quick.screen(), slow.screen());
             ASSERT_EQ(quick.form.battle, slow.form.battle);
             ASSERT_TRUE(quick.generator == slow.generator);
@@ -87,19 +81,29 @@ TEST(SimulateCommand, leaves_what_as_many_battles_on_the_screen_leave)
     }
 }
 
+TEST(SimulateCommand, has_a_fingerprint)
+{
+    Fighter fighter{{3, 1, 1, 0, 0, 0, 0, 0}, 20};
+    auto& [desktop, random, form] = fighter;
+    desktop.typed = "1000";
+    form.cmdSimulate.press();
+    EXPECT_EQ(desktop.boxes.back(), report({"57.2", "13.9", "39.6", "19.2", "3.2"}));
+    EXPECT_EQ(texts(form.txtResult(0), form.txtResult(1), form.txtVictorCasRoll, form.txtVictorCas), "8/18/9/9.6");
+    EXPECT_EQ(random.next(), 1431769798 * 0x1p-32);
+}
+
 TEST(SimulateCommand, says_how_far_its_numbers_may_be_off)
 {
-    auto const margin_of = [](int battles) {
+    std::pair<int, char const*> const cases[] = {
+        {1, "95 times in 100, wins and ties are at most 98 points off, average casualties at most 108."},
+        // 98 / sqrt(10000); a side's casualties vary by some 14 points from battle to battle.
+        {10000, "95 times in 100, wins and ties are at most 0,98 points off, average casualties at most 0,"}};
+    for (auto const& [battles, text] : cases) {
         Simulation simulation{0, 0, {}};
         Generator generator{5};
         simulation.fight(generator, battles);
-        return simulation_margin(simulation.tally(), {",", "."});
-    };
-    EXPECT_EQ(margin_of(1),
-              "95 times in 100, wins and ties are at most 98 points off, average casualties at most 108.");
-    // 98 / sqrt(10000); a side's casualties vary by some 14 points from battle to battle.
-    EXPECT_TRUE(margin_of(10000).starts_with(
-        "95 times in 100, wins and ties are at most 0,98 points off, average casualties at most 0,"));
+        EXPECT_EQ(simulation_margin(simulation.tally(), {",", "."}).substr(0, std::string{text}.size()), text);
+    }
 }
 
 } // namespace

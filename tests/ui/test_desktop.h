@@ -91,8 +91,7 @@ public:
     }
 };
 
-/// The random value of a die that shows `face`, and of `percent` out of a
-/// range.
+/// The random value of a die that shows `face`, and of `percent` out of a range.
 constexpr double d20(int face) { return (face - 0.5) / 20; }
 constexpr double share(int percent, int low, int high) { return (percent - low + 0.5) / (high - low + 1); }
 
@@ -114,8 +113,7 @@ inline std::string report(std::array<std::string, 5> const& numbers)
            "% of the time\r\n\r\n [OK, no icon, OK]";
 }
 
-/// A started program with a list of three misc modifiers, or another list, or
-/// none.
+/// A started program with a list of three misc modifiers, or another list, or none.
 struct Program {
     static constexpr char const* usual_list = "High ground\r\n101|1,3\r\nAmbush\r\n102|3,1\r\nRain\r\n-2\r\n";
 
