@@ -7,7 +7,9 @@ packages_build=(
 packages_check=(
     clang-14 clang-format-14 clang-tidy-14 libclang-rt-14-dev git
     xvfb dbus at-spi2-core python3-pyatspi # the accessibility bus
+    locales
 )
+packages_windows=(cmake ninja-build googletest g++-mingw-w64-x86-64-posix wine wine64)
 
 # install_packages NAME...: installs those of the Debian packages that are missing. Stops the script where that cannot
 # be done, saying what to install.

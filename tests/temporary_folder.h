@@ -4,8 +4,8 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <set>
-#include <stdlib.h>
 #include <string>
 
 namespace warhost {
@@ -14,14 +14,18 @@ class TemporaryFolder {
 public:
     TemporaryFolder()
     {
-        std::string name = (std::filesystem::temp_directory_path() / "warhost-test-XXXXXX").string();
-        folder_ = ::mkdtemp(name.data());
+        auto const start = (std::filesystem::temp_directory_path() / "warhost-test-").string();
+        do folder_ = start + std::to_string(std::random_device{}());
+        while (!std::filesystem::create_directory(folder_));
         std::filesystem::permissions(folder_, std::filesystem::perms{0755});
     }
     TemporaryFolder(TemporaryFolder&&) = delete;
     ~TemporaryFolder() { std::filesystem::remove_all(folder_); }
 
-    std::string path(std::string const& name = {}) const { return name.empty() ? folder_ : folder_ + "/" + name; }
+    std::string path(std::string const& name = {}) const
+    {
+        return name.empty() ? folder_ : folder_ + static_cast<char>(std::filesystem::path::preferred_separator) + name;
+    }
     void write(std::string const& name, std::string const& bytes) const
     {
         std::ofstream{path(name), std::ios::binary} << bytes;
@@ -34,7 +38,8 @@ public:
     std::set<std::string> names() const
     {
         std::set<std::string> found;
-        for (auto const& entry : std::filesystem::directory_iterator{folder_}) found.insert(entry.path().filename());
+        for (auto const& entry : std::filesystem::directory_iterator{folder_})
+            found.insert(entry.path().filename().string());
         return found;
     }
 

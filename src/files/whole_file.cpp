@@ -14,7 +14,14 @@ namespace fs = std::filesystem;
 
 namespace {
 
-fs::path path_of(std::string const& utf8) { return {std::u8string{utf8.begin(), utf8.end()}}; }
+fs::path path_of(std::string const& utf8)
+{
+    try {
+        return {std::u8string{utf8.begin(), utf8.end()}};
+    } catch (std::system_error const&) { // where paths are no bytes
+        throw failure_of(Fault::bad_name, utf8);
+    }
+}
 
 std::error_code last_error(std::errc otherwise)
 {
@@ -38,9 +45,13 @@ fs::path link_target(fs::path path)
 
 bool FileExists(std::string const& path)
 {
-    std::error_code error;
-    auto const status = fs::status(path_of(path), error);
-    return fs::exists(status) && !fs::is_directory(status);
+    try {
+        std::error_code error;
+        auto const status = fs::status(path_of(path), error);
+        return fs::exists(status) && !fs::is_directory(status);
+    } catch (Failure const&) {
+        return false;
+    }
 }
 
 std::string read_file(std::string const& path)

@@ -7,6 +7,7 @@
 #include "ui/main.h"
 
 #include <array>
+#include <clocale>
 #include <deque>
 #include <functional>
 #include <gtest/gtest.h>
@@ -15,6 +16,9 @@
 #include <vector>
 
 namespace warhost {
+
+/// The C library's number format is the user's, as in the program.
+inline auto const* const users_locale = std::setlocale(LC_ALL, "");
 
 /// Thrown where the real program would end.
 struct ProgramEnded {};

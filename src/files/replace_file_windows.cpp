@@ -1,0 +1,170 @@
+#include "files/replace_file.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+#include <system_error>
+#include <utility>
+#include <vector>
+#include <windows.h>
+
+namespace warhost {
+
+namespace {
+
+struct ErrorMeaning {
+    DWORD error;
+    std::errc meaning;
+};
+
+/// Where the library knows no meaning, or another than the user needs.
+constexpr std::array error_meanings{
+    ErrorMeaning{ERROR_INVALID_NAME, std::errc::invalid_argument},
+    ErrorMeaning{ERROR_NOT_READY, std::errc::no_such_device},
+    ErrorMeaning{ERROR_BAD_NETPATH, std::errc::no_such_device},
+    ErrorMeaning{ERROR_NETNAME_DELETED, std::errc::no_such_device},
+    ErrorMeaning{ERROR_WRITE_FAULT, std::errc::io_error},
+    ErrorMeaning{ERROR_GEN_FAILURE, std::errc::io_error},
+    ErrorMeaning{ERROR_CANT_RESOLVE_FILENAME, std::errc::too_many_symbolic_link_levels},
+};
+
+[[noreturn]] void fail(DWORD error)
+{
+    for (auto const& row : error_meanings) {
+        if (error == row.error) throw std::system_error{std::make_error_code(row.meaning)};
+    }
+    throw std::system_error{static_cast<int>(error), std::system_category()};
+}
+
+void require(bool succeeded)
+{
+    if (!succeeded) fail(::GetLastError());
+}
+
+class File {
+public:
+    File() = default;
+    File(File const&) = delete;
+    File& operator=(File const&) = delete;
+    ~File() { close(); }
+
+    bool open(std::filesystem::path const& path, DWORD access, DWORD sharing, DWORD disposition)
+    {
+        handle_ = ::CreateFileW(path.c_str(), access, sharing, nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
+        return handle_ != INVALID_HANDLE_VALUE;
+    }
+
+    void close()
+    {
+        auto* const open = std::exchange(handle_, INVALID_HANDLE_VALUE);
+        if (open != INVALID_HANDLE_VALUE) ::CloseHandle(open);
+    }
+
+    HANDLE handle() const { return handle_; }
+
+private:
+    HANDLE handle_ = INVALID_HANDLE_VALUE;
+};
+
+using Rights = std::vector<unsigned char>;
+
+/// Who may do what with a file; empty where its file system does not tell.
+Rights rights_of(File const& file)
+{
+    DWORD size = 0;
+    ::GetKernelObjectSecurity(file.handle(), DACL_SECURITY_INFORMATION, nullptr, 0, &size);
+    Rights rights(size);
+    bool const told =
+        ::GetKernelObjectSecurity(file.handle(), DACL_SECURITY_INFORMATION, rights.data(), size, &size) != 0;
+    return told ? rights : Rights{};
+}
+
+/// The file that an open one is when its path led there through links.
+std::filesystem::path path_of(File const& file)
+{
+    std::wstring path(::GetFinalPathNameByHandleW(file.handle(), nullptr, 0, FILE_NAME_NORMALIZED), L'\0');
+    auto const size = static_cast<DWORD>(path.size());
+    auto const length = ::GetFinalPathNameByHandleW(file.handle(), path.data(), size, FILE_NAME_NORMALIZED);
+    require(length != 0 && length < size);
+    path.resize(length);
+    return path;
+}
+
+/// A new file in a folder, deleted unless it is put in place.
+class NewFile {
+public:
+    explicit NewFile(std::filesystem::path const& folder)
+    {
+        for (int number = 0;; ++number) {
+            name_ = folder / (".warhost-" + std::to_string(number) + ".tmp");
+            ::DeleteFileW(name_.c_str()); // left by a save that was killed: what is open stays
+            if (file_.open(name_, GENERIC_WRITE | WRITE_DAC, 0, CREATE_NEW)) break;
+            require(::GetLastError() == ERROR_FILE_EXISTS);
+        }
+    }
+    NewFile(NewFile const&) = delete;
+    NewFile& operator=(NewFile const&) = delete;
+    ~NewFile()
+    {
+        file_.close();
+        if (!name_.empty()) ::DeleteFileW(name_.c_str());
+    }
+
+    void take_over_rights(Rights rights) const
+    {
+        require(::SetKernelObjectSecurity(file_.handle(), DACL_SECURITY_INFORMATION, rights.data()) != 0);
+    }
+
+    void write(std::string_view bytes) const
+    {
+        constexpr std::size_t most_at_once = std::size_t{1} << 20U;
+        while (!bytes.empty()) {
+            auto const size = static_cast<DWORD>(std::min<std::size_t>(bytes.size(), most_at_once));
+            DWORD written = 0;
+            require(::WriteFile(file_.handle(), bytes.data(), size, &written, nullptr) != 0);
+            bytes.remove_prefix(written);
+        }
+    }
+
+    void flush() const { require(::FlushFileBuffers(file_.handle()) != 0); }
+
+    void put_in_place(std::filesystem::path const& target)
+    {
+        file_.close();
+        constexpr DWORD how = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
+        require(::MoveFileExW(name_.c_str(), target.c_str(), how) != 0);
+        name_.clear();
+    }
+
+private:
+    std::filesystem::path name_;
+    File file_;
+};
+
+} // namespace
+
+void replace_durably(std::filesystem::path const& target, std::string_view bytes)
+{
+    DWORD const attributes = ::GetFileAttributesW(target.c_str());
+    bool const exists = attributes != INVALID_FILE_ATTRIBUTES;
+    auto place = target;
+    Rights rights;
+    if (exists) {
+        // What is marked read-only, or must not be written, or is in use, stays.
+        if ((attributes & FILE_ATTRIBUTE_READONLY) != 0) fail(ERROR_ACCESS_DENIED);
+        constexpr DWORD share_all = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+        File old; // a link that leads to nothing cannot be opened either, and stays
+        require(old.open(target, GENERIC_WRITE | DELETE, share_all, OPEN_EXISTING));
+        rights = rights_of(old);
+        if ((attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0) place = path_of(old);
+    } else {
+        require(::GetLastError() == ERROR_FILE_NOT_FOUND);
+    }
+    NewFile file{place.parent_path()};
+    if (!rights.empty()) file.take_over_rights(rights);
+    file.write(bytes);
+    file.flush();
+    file.put_in_place(place);
+}
+
+} // namespace warhost
