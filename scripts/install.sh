@@ -1,4 +1,5 @@
-# Sourced, from the project's folder, by ./run, ./test and .ci/run: what must be installed, and the building itself.
+# Sourced, from the project's folder, by ./run, ./test, .ci/run and other scripts: what must be installed, and the
+# building itself.
 # shellcheck shell=bash disable=SC2034
 
 packages_build=(
@@ -10,6 +11,10 @@ packages_check=(
     locales
 )
 packages_windows=(cmake ninja-build googletest g++-mingw-w64-x86-64-posix wine wine64)
+packages_package=(
+    dpkg-dev lintian desktop-file-utils appstream
+    mmdebstrap xvfb xdotool # the package installed
+)
 
 # install_packages NAME...: installs those of the Debian packages that are missing. Stops the script where that cannot
 # be done, saying what to install.

@@ -5,3 +5,4 @@ cd "$(dirname "$0")"
 rsvg-convert -w 16 -h 16 warhost-16.svg -o warhost-16.png
 for size in 32 48 256; do rsvg-convert -w $size -h $size warhost.svg -o warhost-$size.png; done
 for size in 108 216; do rsvg-convert -w $size -h $size emblem.svg -o emblem-$size.png; done
+for size in 16 32 48 256; do rsvg-convert -w $size -h $size army.svg -o army-$size.png; done

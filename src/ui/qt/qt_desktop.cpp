@@ -127,15 +127,21 @@ std::string QtDesktop::input_box(InputBox const& box)
     return input.exec() == QDialog::Accepted ? input.textValue().toStdString() : std::string{};
 }
 
-QString QtDesktop::first_folder()
+/// Where the user last was; at first the sample armies. What is saved goes where it may.
+QString QtDesktop::folder_for(FileDialogKind kind)
 {
+    bool const saves = kind == FileDialogKind::save;
     QString const samples = to_qt(program_directory()) + "/armies";
-    return QFileInfo{samples}.isDir() ? samples : QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    for (QString const& folder : {last_folder_, saves ? QString{} : samples}) {
+        QFileInfo const info{folder};
+        if (!folder.isEmpty() && info.isDir() && (!saves || info.isWritable())) return folder;
+    }
+    return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
 }
 
 std::optional<std::string> QtDesktop::file_dialog(FileDialog const& dialog)
 {
-    QFileDialog chooser{window_, to_qt(dialog.title), last_folder_.isEmpty() ? first_folder() : last_folder_};
+    QFileDialog chooser{window_, to_qt(dialog.title), folder_for(dialog.kind)};
     bool const saves = dialog.kind == FileDialogKind::save;
     chooser.setAcceptMode(saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     chooser.setFileMode(dialog.file_must_exist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);

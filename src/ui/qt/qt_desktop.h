@@ -45,7 +45,7 @@ public:
     std::function<void()> about;
 
 private:
-    QString first_folder();
+    QString folder_for(FileDialogKind kind);
 
     QWidget* window_ = nullptr;
     Scale scale_;

@@ -1,0 +1,17 @@
+#!/usr/bin/env bash
+# Makes the Debian package in build/package and checks what is in it. What is missing is installed first.
+set -euo pipefail
+cd "$(dirname "$(readlink -f "$0")")/.."
+source scripts/install.sh
+
+install_packages "${packages_build[@]}" "${packages_package[@]}"
+build release
+made=build/package
+rm -rf "$made"
+umask 022 # the folders in the package are made with it
+cpack --config build/release/CPackConfig.cmake -B "$made" >/dev/null
+lintian --allow-root --display-info --pedantic --fail-on error,warning,info,pedantic "$made"/*.deb
+dpkg-deb --extract "$made"/*.deb "$made/content"
+desktop-file-validate "$made"/content/usr/share/applications/*.desktop
+appstreamcli validate-tree --no-net "$made/content"
+echo "$made"/*.deb

@@ -1,0 +1,72 @@
+#!/usr/bin/env bash
+# Installs the package that scripts/package.sh made into a clean Debian, uses the program there as an ordinary user,
+# removes it, and fails if anything is left. Needs root. The clean Debian stays in build/debian for the next time.
+set -euo pipefail
+cd "$(dirname "$(readlink -f "$0")")/.."
+source scripts/install.sh
+
+if [ "$(id -u)" -ne 0 ]; then
+    echo 'Please run this as root: it installs the package into a Debian of its own.' >&2
+    exit 1
+fi
+install_packages "${packages_package[@]}"
+package=$(echo build/package/*.deb)
+depends=$(dpkg-deb --field "$package" Depends)
+debian=build/debian
+home=/home/player
+player=65534
+export PKGSYSTEM_ENABLE_FSYNC=0 # the MIME database need not survive a power cut
+
+# What the clean Debian was made for, and everything in it.
+listing()
+{
+    echo "$depends"
+    find "$debian" -printf '%P %M %u %g %l\n' | LC_ALL=C sort
+}
+
+# The essential packages and those that ours depends on, from where this machine takes its own.
+if [ "$(head -n 1 "$debian.list" 2>/dev/null)" != "$depends" ]; then
+    rm -rf --one-file-system "$debian" "$debian.list"
+    apt-get -qq update
+    # shellcheck disable=SC2016,SC1091 # apt's own variables; the system's own file
+    apt-get indextargets --format 'deb $(REPO_URI) $(RELEASE) $(COMPONENT)' 'Created-By: Packages' 'Origin: Debian' |
+        mmdebstrap --quiet --variant=essential --include="$(sed 's/ ([^)]*)//g; s/ |[^,]*//g; s/ //g' <<<"$depends")" \
+            "$(. /etc/os-release && echo "$VERSION_CODENAME")" "$debian" -
+    listing >"$debian.list"
+fi
+
+exec 3< <(exec Xvfb -displayfd 1 -screen 0 1600x1200x24 2>/dev/null)
+screen=$!
+trap 'kill $screen' EXIT
+read -r number <&3
+export DISPLAY=:$number
+
+# window TITLE: waits for it to appear and prints its number.
+window()
+{
+    if ! timeout 20 xdotool search --sync --onlyvisible --name "^$1\$"; then
+        printf 'There is no window "%s".\n' "$1" >&2
+        return 1
+    fi
+}
+
+mv "$debian.list" "$debian.before" # and back when all is well: what fails may leave a Debian that is not clean
+dpkg --root="$debian" --install "$package"
+install --directory --mode=700 --owner=$player "$debian$home"
+env --ignore-environment PATH=/usr/bin DISPLAY="$DISPLAY" HOME=$home XDG_RUNTIME_DIR=$home \
+    unshare --mount-proc --root="$debian" --setuid=$player --setgid=$player warhost &
+program=$!
+trap 'kill $program $screen 2>/dev/null' EXIT
+main_window=$(window Warhost)
+xdotool windowfocus --sync "$main_window"
+# From the first field backwards to the last row of the list, then to what the manual tells of that row.
+xdotool key shift+Tab shift+Tab F1
+window 'Misc. modifiers and feats - Warhost Help' >/dev/null
+kill $program
+trap 'kill $screen' EXIT
+
+rmdir "$debian$home"
+dpkg --root="$debian" --purge warhost
+diff "$debian.before" <(listing)
+mv "$debian.before" "$debian.list"
+echo 'The package can be installed, the program finds its list and its manual, and nothing is left after its removal.'

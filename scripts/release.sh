@@ -1,0 +1,24 @@
+#!/usr/bin/env bash
+# Makes a release of what is committed: the package, the source and their checksums, in build/warhost-VERSION. The
+# version is the project's; configuring fails unless CHANGELOG.md begins with it.
+set -euo pipefail
+cd "$(dirname "$(readlink -f "$0")")/.."
+
+changed=$(git status --porcelain)
+if [ -n "$changed" ]; then
+    printf 'Please commit or remove these first:\n%s\n' "$changed" >&2
+    exit 1
+fi
+./test
+scripts/package.sh
+scripts/package_check.sh
+
+name=warhost-$(dpkg-deb --field build/package/*.deb Version)
+rm -rf "build/$name"
+mkdir "build/$name"
+cp build/package/*.deb "build/$name"
+git archive --prefix="$name/" --output="build/$name/$name.tar.gz" HEAD
+cd "build/$name"
+sha256sum -- * >SHA256SUMS
+printf 'The release is in build/%s:\n' "$name"
+cat SHA256SUMS
