@@ -74,6 +74,7 @@ QLayout* ArmyPage::top_line()
     line->setSpacing(make_.pixels(6));
     auto* const name_label = make_.label(form_.Label(0));
     auto* const name = make_.text_box(form_.txtArmyName, "Name of army", 260);
+    name->setPlaceholderText("Type a name, or load an army");
     name_label->setBuddy(name);
     line->addWidget(name_label);
     line->addWidget(name);
