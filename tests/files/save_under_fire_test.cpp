@@ -1,8 +1,8 @@
 // Saving while its system calls fail, or while the process is killed at one of them. The linker puts the functions
 // below in place of the system's.
-#include "army/failure.h"
 #include "files/whole_file.h"
 
+#include "caught.h"
 #include "temporary_folder.h"
 
 #include <cerrno>
@@ -22,6 +22,7 @@ struct Fire {
     int at; // the call that is struck, counted from 1
     bool knows_nameless_files;
     int calls = 0;
+    bool unflushed = false;
 };
 
 Fire* fire = nullptr;
@@ -60,7 +61,13 @@ UNDER_FIRE(rename, (char const* from, char const* to), (from, to))
 UNDER_FIRE(stat, (char const* path, struct stat* status), (path, status))
 UNDER_FIRE(unlink, (char const* path), (path))
 
-int __wrap_fsync(int) { return struck() ? -1 : ended(0); } // hundreds of saves need no disk
+int __wrap_fsync(int file) // hundreds of saves need no disk
+{
+    if (!struck()) return ended(0);
+    struct stat status = {};
+    fire->unflushed = __real_fstat(file, &status) == 0 && S_ISREG(status.st_mode);
+    return -1;
+}
 
 int __real_open(char const* path, int flags, mode_t mode);
 int __wrap_open(char const* path, int flags, mode_t mode)
@@ -83,7 +90,7 @@ ssize_t __wrap_write(int file, void const* bytes, size_t count)
 namespace warhost {
 namespace {
 
-enum Ending { saved, refused, refused_without_a_word, not_struck, killed };
+enum Ending { saved, refused, refused_with_wrong_words, not_struck, killed };
 
 /// Saves in a process of its own.
 Ending save_under_fire(std::string const& path, std::string const& bytes, Fire blows)
@@ -91,13 +98,11 @@ Ending save_under_fire(std::string const& path, std::string const& bytes, Fire b
     pid_t const child = ::fork();
     if (child == 0) {
         fire = &blows;
-        Ending ending = saved;
-        try {
-            replace_file(path, bytes);
-        } catch (Failure const& failure) {
-            ending = failure.text.find(path) != failure.text.npos ? refused : refused_without_a_word;
-        }
-        ::_exit(blows.calls < blows.at ? not_struck : ending);
+        Failure const failure = caught(replace_file, path, bytes);
+        std::string const full = "The disk is full: ", broken = "The disk or network reported an error: ";
+        bool const told = failure.text == (blows.blow == Blow::disk_full ? full : broken) + path;
+        Ending const refusal = told ? refused : refused_with_wrong_words;
+        ::_exit(blows.calls < blows.at ? not_struck : failure.number == 0 && !blows.unflushed ? saved : refusal);
     }
     int status = 0;
     ::waitpid(child, &status, 0);
@@ -106,33 +111,28 @@ Ending save_under_fire(std::string const& path, std::string const& bytes, Fire b
 
 TEST(SaveUnderFire, leaves_the_old_army_or_the_new_one_and_nothing_else)
 {
-    std::string const old_army(2000, 'o');
-    std::string const new_army(200000, 'n');
+    std::string const old_army(2000, 'o'), new_army(200000, 'n');
     using Names = std::set<std::string>;
     for (auto const blow :
          {Blow::device_error, Blow::disk_full, Blow::cut_short, Blow::killed_before, Blow::killed_after}) {
-        for (bool const replaces : {false, true}) {
-            for (bool const nameless : {false, true}) {
-                int at = 1;
-                for (;; ++at) {
-                    SCOPED_TRACE(testing::Message()
-                                 << "blow " << static_cast<int>(blow) << " at call " << at
-                                 << (replaces ? ", replacing" : "") << (nameless ? ", nameless" : ""));
-                    TemporaryFolder const folder;
-                    if (replaces) folder.write("x.Army", old_army);
-                    Ending const ending = save_under_fire(folder.path("x.Army"), new_army, {blow, at, nameless});
-                    bool const is_new = folder.read("x.Army") == new_army;
-                    bool const is_old = folder.read("x.Army") == (replaces ? old_army : "");
-                    EXPECT_TRUE(ending == saved || ending == not_struck ? is_new
-                                : ending == refused                     ? is_old
-                                                                        : ending == killed && (is_old || is_new));
-                    // What a killed save left is gone after the next one.
-                    if (ending == killed) replace_file(folder.path("x.Army"), old_army);
-                    EXPECT_EQ(folder.names(), ending == refused && !replaces ? Names{} : Names{"x.Army"});
-                    if (ending == not_struck) break;
-                }
-                EXPECT_GT(at, 8);
+        for (auto const& [replaces, nameless] : {std::pair{false, false}, {false, true}, {true, false}, {true, true}}) {
+            Ending ending = saved;
+            int at = 1;
+            for (; ending != not_struck; ++at) {
+                SCOPED_TRACE(testing::Message() << "blow " << static_cast<int>(blow) << " at call " << at
+                                                << (replaces ? ", replacing" : "") << (nameless ? ", nameless" : ""));
+                TemporaryFolder const folder;
+                if (replaces) folder.write("x.Army", old_army);
+                ending = save_under_fire(folder.path("x.Army"), new_army, {blow, at, nameless});
+                bool const is_new = folder.read("x.Army") == new_army;
+                bool const is_old = folder.read("x.Army") == (replaces ? old_army : "");
+                EXPECT_NE(ending, refused_with_wrong_words);
+                EXPECT_TRUE(ending == refused ? is_old : is_new || (is_old && ending == killed));
+                // What a killed save left is gone after the next one.
+                if (ending == killed) replace_file(folder.path("x.Army"), old_army);
+                EXPECT_EQ(folder.names(), ending == refused && !replaces ? Names{} : Names{"x.Army"});
             }
+            EXPECT_GT(at, 9);
         }
     }
 }
@@ -140,9 +140,8 @@ TEST(SaveUnderFire, leaves_the_old_army_or_the_new_one_and_nothing_else)
 TEST(SaveUnderFire, two_programs_that_save_the_same_file_do_not_disturb_each_other)
 {
     TemporaryFolder const folder;
-    std::string const one(5000, '1');
-    std::string const two(70000, '2');
-    Fire no_blow{Blow::cut_short, 0, true};
+    std::string const one(5000, '1'), two(70000, '2');
+    Fire const no_blow{Blow::cut_short, 0, true};
     bool const first = ::fork() == 0;
     int refusals = 0;
     for (int round = 0; round < 300; ++round) {
@@ -153,8 +152,7 @@ TEST(SaveUnderFire, two_programs_that_save_the_same_file_do_not_disturb_each_oth
     if (first) ::_exit(refusals);
     int status = 0;
     ::wait(&status);
-    EXPECT_EQ(status, 0);
-    EXPECT_EQ(refusals, 0);
+    EXPECT_EQ(std::pair(status, refusals), std::pair(0, 0));
     EXPECT_EQ(folder.names(), std::set<std::string>{"x.Army"});
 }
 

@@ -3,13 +3,11 @@
 #include "caught.h"
 #include "temporary_folder.h"
 
-#include <csignal>
 #include <cstdlib>
 #include <gtest/gtest.h>
 #ifdef _WIN32
 #include <windows.h>
 #else
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #endif
@@ -142,22 +140,6 @@ TEST_F(WholeFile, replaces_a_file_and_keeps_links_and_permissions)
     EXPECT_TRUE(FileExists(dangling));
     EXPECT_EQ(read("born"), "three");
     EXPECT_EQ(names(), (std::set<std::string>{"born", "links", "old"}));
-}
-
-TEST_F(WholeFile, that_cannot_be_written_to_its_end_stays_the_old_one)
-{
-    write("file", "whole");
-    rlimit before{};
-    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
-    auto* const handler = std::signal(SIGXFSZ, SIG_IGN);
-    rlimit const small{1000, before.rlim_max};
-    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
-    auto const text = caught(replace, path("file")).text;
-    ::setrlimit(RLIMIT_FSIZE, &before);
-    std::signal(SIGXFSZ, handler);
-    EXPECT_EQ(text, "The file is too large: " + path("file"));
-    EXPECT_EQ(read("file"), "whole");
-    EXPECT_EQ(names(), std::set<std::string>{"file"});
 }
 
 TEST_F(WholeFile, respects_permissions)

@@ -9,9 +9,9 @@ namespace warhost {
 /// Both file dialogs answer with "x.Army" in the program's folder.
 struct ArmyFiles : testing::Test, Program {
     ArmyFiles() { desktop.chosen = folder.path("x.Army"); }
-    void open(Army const& army)
+    void load(std::string const& bytes)
     {
-        folder.write("x.Army", encode_army(army));
+        folder.write("x.Army", bytes);
         form.cmdLoadArmy.press();
     }
 };
@@ -65,7 +65,7 @@ TEST_F(ArmyFiles, are_judged_by_the_screen_and_carried_where_it_shows_nothing)
     expected.TotalMod = 4 + 3 + 2 + 20 + 1;
     // clang-format on
     form.TabStrip.choose(2);
-    open(army);
+    load(encode_army(army));
     EXPECT_EQ(texts(form.cmbOpt(0), form.cmbOpt(6), form.cmbLevel, form.lblOtherLevel), "+4/+3/3/1.5");
     EXPECT_TRUE(form.opt(3).selected() && form.cmbOpt(0).list().back() == "+4");
     EXPECT_TRUE(form.chkMisc(1).bold() && form.chkMisc(2).state() == 0);
@@ -78,7 +78,7 @@ TEST_F(ArmyFiles, are_judged_by_the_screen_and_carried_where_it_shows_nothing)
     EXPECT_EQ(form.ArmyB, expected);
     for (float const level : {NAN, INFINITY, -INFINITY}) {
         army.Level = level;
-        open(army);
+        load(encode_army(army));
         EXPECT_EQ(texts(form.cmbLevel, form.lblLevelBonus, form.txtTotal), general_text(level, {}) + "/+0/29");
         EXPECT_TRUE(form.ArmyB.Level == 0 && desktop.boxes.empty());
     }
@@ -127,14 +127,10 @@ TEST_F(ArmyFiles, that_are_cut_or_damaged_anywhere_change_nothing_or_are_carried
     army.UnitNum[0] = 50;
     army.Opt[3] = -1;
     army.ReservedNumberLists[1].encoded = std::string{"\1\0\1\0\0\0\0\0\0\0abcd", 14};
-    open(army);
+    load(encode_army(army));
     form.cmdSaveArmy.press();
     std::string const good = folder.read("x.Army");
     Army const before = form.ArmyA;
-    auto const load = [&](std::string const& bytes) {
-        folder.write("x.Army", bytes);
-        form.cmdLoadArmy.press();
-    };
     auto const load_damaged = [&](std::string const& bytes) {
         desktop.boxes.clear();
         load(bytes);

@@ -40,8 +40,7 @@ struct AnyUser {
     {
         desktop.chosen = folder.path(std::to_string(any(3)) + ".Army");
         if (any(9) == 0) return form.TabStrip.choose(1 + any(2));
-        if (form.TabStrip.position() == tab_combat) return act_on_the_combat_screen();
-        switch (any(9)) {
+        switch (form.TabStrip.position() == tab_combat ? 10 + any(6) : any(9)) {
         case 0: return form.txtArmyName.set_text(any_text());
         case 1: return form.txtUnitType(any(7)).set_text(any_text());
         case 2: return form.txtUnitNum(any(7)).set_text(any_text());
@@ -51,19 +50,13 @@ struct AnyUser {
         case 6: return form.chkMisc(1 + any(2)).set_state(any(1));
         case 7: return form.cmbMisc(1 + any(2)).choose(0);
         case 8: return form.cmdSaveArmy.press();
-        default: return form.cmdLoadArmy.press();
-        }
-    }
-
-    void act_on_the_combat_screen()
-    {
-        switch (any(6)) {
-        case 0: return form.cmdRollAll.press();
-        case 1: return form.cmdRoll(any(1)).press();
-        case 2: return form.txtResult(any(1)).set_text(any_text());
-        case 3: return form.txtVictorCasRoll.set_text(any_text());
-        case 4: return form.txtLoses(any(15)).set_text(any_text());
-        case 5: return form.txtLoserCasualty.set_text(any_text());
+        case 9: return form.cmdLoadArmy.press();
+        case 10: return form.cmdRollAll.press();
+        case 11: return form.cmdRoll(any(1)).press();
+        case 12: return form.txtResult(any(1)).set_text(any_text());
+        case 13: return form.txtVictorCasRoll.set_text(any_text());
+        case 14: return form.txtLoses(any(15)).set_text(any_text());
+        case 15: return form.txtLoserCasualty.set_text(any_text());
         default: return form.cmdApplyCasualties(any(1)).press();
         }
     }

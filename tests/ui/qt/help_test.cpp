@@ -35,10 +35,8 @@ QString shown_by(HelpViewer& viewer) { return viewer.findChild<QTextBrowser*>("h
 QList<QWidget*> about_boxes()
 {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QList<QWidget*> boxes;
-    for (auto* widget : QApplication::topLevelWidgets()) {
-        if (widget->objectName() == "frmAbout") boxes.push_back(widget);
-    }
+    auto boxes = QApplication::topLevelWidgets();
+    boxes.removeIf([](QWidget* widget) { return widget->objectName() != "frmAbout"; });
     return boxes;
 }
 

@@ -9,6 +9,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QFont>
+#include <QRegularExpression>
 #include <QTabBar>
 #include <QTest>
 
@@ -57,10 +58,10 @@ struct Screen {
         QCoreApplication::processEvents();
     }
 
-    template <class Widget> Widget& named(char const* name)
+    template <class Widget> Widget& named(QString const& name)
     {
         auto* const widget = window.findChild<Widget*>(name);
-        if (widget == nullptr) throw std::runtime_error{std::string{"no widget "} + name};
+        if (widget == nullptr) throw std::runtime_error{"no widget " + name.toStdString()};
         return *widget;
     }
 
@@ -82,5 +83,20 @@ private:
         return form;
     }
 };
+
+/// "opt(0-3)" stands for opt(0) to opt(3), "a,b(0-1)" for a(0), b(0), a(1) and b(1).
+inline QStringList spelled_out(QString const& ranges)
+{
+    QStringList names;
+    for (QString const& word : ranges.split(' ')) {
+        auto const range = QRegularExpression{R"(^([\w,]+)\((\d+)-(\d+)\)$)"}.match(word);
+        if (!range.hasMatch()) names.push_back(word);
+        else
+            for (int k = range.captured(2).toInt(); k <= range.captured(3).toInt(); ++k)
+                for (QString const& name : range.captured(1).split(','))
+                    names.push_back(QString{"%1(%2)"}.arg(name).arg(k));
+    }
+    return names;
+}
 
 } // namespace warhost

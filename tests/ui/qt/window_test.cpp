@@ -10,8 +10,6 @@
 
 #include <QCheckBox>
 #include <QLineEdit>
-#include <QPushButton>
-#include <QRegularExpression>
 #include <QThread>
 #include <QTimer>
 
@@ -126,35 +124,22 @@ TEST(Window, ticking_a_misc_row_counts_and_its_help_key_opens_its_topic)
     EXPECT_EQ(screen.desktop.topic, screen.form.chkMisc(1).help_topic);
 }
 
-TEST(Window, tabs_swap_the_armies)
-{
-    Screen screen;
-    auto& name = screen.named<QLineEdit>("txtArmyName");
-    QTest::keyClicks(&name, "Elves");
-    screen.choose_tab(2);
-    EXPECT_EQ(name.text(), "");
-    QTest::keyClicks(screen.window.focusWidget(), "Dwarves");
-    screen.choose_tab(3);
-    EXPECT_FALSE(name.isVisible());
-    EXPECT_TRUE(screen.named<QPushButton>("cmdRollAll").isVisible());
-    screen.choose_tab(1);
-    EXPECT_EQ(name.text(), "Elves");
-    EXPECT_EQ(screen.form.ArmyB.Name, "Dwarves");
-}
-
-TEST(Window, save_and_load_through_the_menus_and_their_keys)
+TEST(Window, tabs_swap_the_armies_and_the_menus_and_their_keys_save_and_load_them)
 {
     TemporaryFolder const folder;
     Screen screen;
-    screen.desktop.path = folder.path() + "/elves.Army";
+    screen.desktop.path = folder.path("elves.Army");
     auto& name = screen.named<QLineEdit>("txtArmyName");
     QTest::keyClicks(&name, "Elves");
     QTest::keyClick(&name, Qt::Key_S, Qt::ControlModifier);
     screen.choose_tab(2);
+    QTest::keyClicks(screen.window.focusWidget(), "Dwarves");
+    EXPECT_EQ(name.text(), "Dwarves");
     screen.trigger("mnuLoad");
     EXPECT_EQ(name.text(), "Elves");
     EXPECT_EQ(screen.form.ArmyB.Name, "Elves");
     screen.choose_tab(3);
+    EXPECT_FALSE(name.isVisible());
     screen.trigger("mnuLoad");
     EXPECT_EQ(screen.desktop.titles.size(), 1U) << "refused while neither side is chosen";
 }
@@ -178,33 +163,27 @@ TEST(Window, whatever_is_clicked_and_typed_the_records_and_the_screen_agree)
     Screen screen;
     Generator chance{3};
     auto const any = [&](int last) { return roll_between(chance, 0, last); };
+    char const* const typed[] = {"7", "-", "x y", "99999", " ", "2.5", "\b"};
     for (int round = 0; round < 1500 && !testing::Test::HasFatalFailure(); ++round) {
         SCOPED_TRACE(round);
-        screen.desktop.titles.clear();
         screen.desktop.path = folder.path(any(1) == 0 ? "one.Army" : "two.Army");
-        std::vector<QWidget*> in_reach;
-        for (QWidget* const widget : screen.window.findChildren<QWidget*>()) {
-            bool const is_total = widget->objectName().startsWith("txtTotal"); // holds what is typed over it
-            if (!is_total && widget->isVisible() && (widget->focusPolicy() & Qt::TabFocus) != 0)
-                in_reach.push_back(widget);
-        }
-        QWidget* const widget = in_reach[static_cast<std::size_t>(any(static_cast<int>(in_reach.size()) - 1))];
+        // A total holds what is typed over it.
+        auto in_reach = screen.window.findChildren<QWidget*>(QRegularExpression{"^(?!txtTotal)"});
+        in_reach.removeIf([](auto* at) { return !at->isVisible() || (at->focusPolicy() & Qt::TabFocus) == 0; });
+        QWidget* const widget = in_reach.at(any(static_cast<int>(in_reach.size()) - 1));
         if (any(1) == 0) QTest::mouseClick(widget, Qt::LeftButton, {}, {any(widget->width() - 1), 10});
-        else
-            QTest::keyClicks(widget,
-                             std::array{"7", "-", "x y", "99999", " ", "2.5", "\b"}[static_cast<std::size_t>(any(6))]);
+        else QTest::keyClicks(widget, typed[any(6)]);
         if (auto* const list = QApplication::activePopupWidget())
             QTest::keyClick(list, any(1) == 0 ? Qt::Key_Escape : Qt::Key_Enter);
         QCoreApplication::processEvents();
         check_agreement(screen.form);
         ASSERT_EQ(screen.named<QLineEdit>("txtArmyName").text(), to_qt(screen.form.txtArmyName.text()));
-        for (int row = 0; row < unit_rows; ++row) {
-            auto const& box = screen.named<QLineEdit>(QString{"txtUnitNum(%1)"}.arg(row).toUtf8());
-            ASSERT_EQ(box.text(), to_qt(screen.form.txtUnitNum(row).text()));
+        for (int k = 0; k < 8; ++k) {
+            auto const& number = screen.named<QLineEdit>(QString{"txtUnitNum(%1)"}.arg(k));
+            auto const& result = screen.named<ValueBox>(QString{"cmbOpt(%1)"}.arg(k));
+            ASSERT_EQ(number.text(), to_qt(screen.form.txtUnitNum(k).text()));
+            ASSERT_EQ(result.currentText(), to_qt(screen.form.cmbOpt(k).text()));
         }
-        for (int k = 0; k < 8; ++k)
-            ASSERT_EQ(screen.named<ValueBox>(QString{"cmbOpt(%1)"}.arg(k).toUtf8()).currentText(),
-                      to_qt(screen.form.cmbOpt(k).text()));
     }
 }
 
@@ -233,27 +212,10 @@ TEST(Window, the_four_containers_follow_the_windows_size)
     EXPECT_EQ(screen.named<QWidget>("txtArmyName").mapTo(&screen.window, QPoint{}), name_place);
 }
 
-/// "opt(0-3)" stands for opt(0) to opt(3).
-std::vector<QString> spelled_out(QString const& ranges)
-{
-    std::vector<QString> names;
-    static QRegularExpression const range{R"(^(\w+)\((\d+)-(\d+)\)$)"};
-    for (QString const& word : ranges.split(' ', Qt::SkipEmptyParts)) {
-        auto const match = range.match(word);
-        if (!match.hasMatch()) {
-            names.push_back(word);
-            continue;
-        }
-        for (int k = match.captured(2).toInt(); k <= match.captured(3).toInt(); ++k) {
-            names.push_back(QString{"%1(%2)"}.arg(match.captured(1)).arg(k));
-        }
-    }
-    return names;
-}
-
 TEST(Window, every_control_is_there_once_under_its_name)
 {
     Screen screen;
+    screen.choose_tab(3);
     auto const names = spelled_out(
         "TabStrip FrameArmy FrameCombat FrameMisc mnuFile mnuLoad mnuSave mnuQuit mnuWebLinks mnuWeb(1) mnuWeb(3) mnuWeb(5) "
         "mnuWeb(7) mnuWeb(9) mnuHelp mnuHelpContents mnuAbout Label(0-25) txtArmyName cmdSaveArmy cmdLoadArmy Label4 "
@@ -264,10 +226,8 @@ TEST(Window, every_control_is_there_once_under_its_name)
         "Frame7 txtLoserCasualty txtVictorCasRoll cmdRollCasualty txtCasRollBonus chkPlus5 chkMinus5 lblCasRange "
         "cmdRollVictorCas txtVictorCasPercent lblLoserPercent Label13 txtVictorCas frmSideA Frame8 txtAName(0-15) "
         "txtANum(0-15) txtLoses(0-15) cmdApplyCasualties(0-1) Frame9 Label10 txtBattleResults Label11 txtVictorDesc cmdSimulate");
-    screen.choose_tab(3);
-    for (QString const& name : names) {
+    for (QString const& name : names)
         EXPECT_EQ(screen.window.findChildren<QObject*>(name).size(), 1) << name.toStdString();
-    }
 }
 
 } // namespace
