@@ -1,10 +1,12 @@
 #include "files/replace_file.h"
 
 #include <cerrno>
+#include <csignal>
 #include <fcntl.h>
 #include <string>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <system_error>
 #include <unistd.h>
 
@@ -17,16 +19,12 @@ void require(bool succeeded)
     if (!succeeded) throw std::system_error{errno, std::generic_category()};
 }
 
-std::filesystem::path temporary_name(std::filesystem::path const& folder, int number)
-{
-    return folder / (".warhost-" + std::to_string(number) + ".tmp");
-}
-
 /// A lock that lasts until the descriptor is closed, by the system at the latest. Denied only when another save holds
 /// it: where there are no locks, everyone has his.
 bool lock(int descriptor) { return ::flock(descriptor, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK; }
 
-/// Removes the temporary file of a save that was killed: one that nobody has locked. False when it must stay.
+/// Removes the temporary file of a save of this user's that was killed: one that nobody has locked. False when what
+/// has the name must stay.
 bool remove_abandoned(std::filesystem::path const& name)
 {
     int const descriptor = ::open(name.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
@@ -35,6 +33,7 @@ bool remove_abandoned(std::filesystem::path const& name)
     struct stat named = {};
     // A name that still leads to the locked file is nobody's: its owner would have kept the lock until renaming it.
     bool const removed = ::flock(descriptor, LOCK_EX | LOCK_NB) == 0 && ::fstat(descriptor, &opened) == 0 &&
+                         S_ISREG(opened.st_mode) && opened.st_uid == ::geteuid() &&
                          ::lstat(name.c_str(), &named) == 0 && opened.st_dev == named.st_dev &&
                          opened.st_ino == named.st_ino && ::unlink(name.c_str()) == 0;
     ::close(descriptor);
@@ -59,7 +58,7 @@ public:
     {
         descriptor_ = ::open(folder_.c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, 0666);
         bool const unknown = errno == EOPNOTSUPP || errno == EISDIR || errno == EINVAL || errno == ENOENT;
-        require(descriptor_ >= 0 || unknown);
+        require_opened(descriptor_ >= 0 || unknown);
         return descriptor_ >= 0 && lock(descriptor_);
     }
 
@@ -68,26 +67,34 @@ public:
         auto const create = [&] {
             descriptor_ = ::open(name_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
             if (descriptor_ < 0) return false;
+            bool const locked = lock(descriptor_);
             struct stat own = {};
-            if (lock(descriptor_) && ::fstat(descriptor_, &own) == 0 && own.st_nlink > 0) return true;
-            ::close(descriptor_); // taken for abandoned before it was locked
+            bool const told = ::fstat(descriptor_, &own) == 0;
+            if (told && locked && own.st_nlink > 0) return true;
+            int const cause = told ? EEXIST : errno; // the name was taken for abandoned before it was locked
+            if (!told) ::unlink(name_.c_str());
+            ::close(descriptor_);
             descriptor_ = -1;
-            errno = EEXIST;
+            errno = cause;
             return false;
         };
-        require(find_name(create));
+        require_opened(find_name(create));
     }
 
-    /// Group and permissions of the file to be replaced, as far as the system lets them be given.
-    void take_over_rights(struct stat const& old) const
+    /// The rights to the file to be replaced, as far as the system lets them be given; never more.
+    void take_over_rights(std::filesystem::path const& target, struct stat const& old) const
     {
         struct stat own = {};
         require(::fstat(descriptor_, &own) == 0);
         constexpr auto unchanged = static_cast<uid_t>(-1);
+        constexpr char const* access_list = "system.posix_acl_access"; // what further users and groups may do
+        std::string list(std::size_t{64} * 1024, '\0');
+        ssize_t const size = ::getxattr(target.c_str(), access_list, list.data(), list.size());
+        bool const same_group = own.st_gid == old.st_gid || ::fchown(descriptor_, unchanged, old.st_gid) == 0;
+        if (same_group && size > 0 && ::fsetxattr(descriptor_, access_list, list.data(), size, 0) == 0) return;
         mode_t mode = old.st_mode & 07777U;
-        if (own.st_gid != old.st_gid && ::fchown(descriptor_, unchanged, old.st_gid) != 0) {
-            mode &= ~static_cast<mode_t>(S_IRWXG); // meant for another group
-        }
+        // Meant for another group, or not for the group alone.
+        if (!same_group || size > 0) mode &= ~static_cast<mode_t>(S_IRWXG);
         if ((own.st_mode & 07777U) == mode) return;
         require(::fchmod(descriptor_, mode) == 0 || errno == EPERM || errno == ENOTSUP);
     }
@@ -116,21 +123,31 @@ public:
     }
 
 private:
+    /// It is the folder that a new file was not allowed in.
+    void require_opened(bool succeeded) const
+    {
+        if (!succeeded && (errno == EACCES || errno == EROFS)) {
+            throw std::filesystem::filesystem_error{{}, folder_, {errno, std::generic_category()}};
+        }
+        require(succeeded);
+    }
+
     /// Puts one unused name after another into name_ until make succeeds; false, and no name, when it fails otherwise.
     template <class Make> bool find_name(Make make)
     {
-        for (int number = 0;;) {
+        constexpr int most_names = 100;
+        int cause = EEXIST;
+        for (int number = 0; number < most_names && cause == EEXIST; ++number) {
             name_ = temporary_name(folder_, number);
             if (make()) return true;
-            int const cause = errno;
-            if (cause == EEXIST) {
-                if (!remove_abandoned(name_)) ++number;
-                continue;
-            }
-            name_.clear(); // it names no file of ours
-            errno = cause;
-            return false;
+            cause = errno;
+            if (cause != EEXIST || !remove_abandoned(name_)) continue;
+            if (make()) return true;
+            cause = errno;
         }
+        name_.clear(); // it names no file of ours
+        errno = cause;
+        return false;
     }
 
     bool link_to(std::filesystem::path const& path) const
@@ -161,6 +178,7 @@ void replace_durably(std::filesystem::path const& target, std::string_view bytes
     auto const folder = target.has_parent_path() ? target.parent_path() : std::filesystem::path{"."};
     // A file marked read-only stays, although a rename could replace it.
     if (::faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) != 0) require(errno == ENOENT);
+    std::signal(SIGXFSZ, SIG_IGN); // a limit on the size of files is to be told, not to end the program
     remove_abandoned(temporary_name(folder, 0));
     struct stat old = {};
     bool const replaces = ::stat(target.c_str(), &old) == 0;
@@ -169,7 +187,7 @@ void replace_durably(std::filesystem::path const& target, std::string_view bytes
         NewFile file{folder};
         if (nameless && !file.open_nameless()) continue;
         if (!nameless) file.open_named();
-        if (replaces) file.take_over_rights(old);
+        if (replaces) file.take_over_rights(target, old);
         file.write(bytes);
         file.flush();
         if (file.put_in_place(target)) break;

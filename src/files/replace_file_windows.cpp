@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <string>
 #include <system_error>
 #include <utility>
 #include <vector>
@@ -96,9 +95,9 @@ public:
     explicit NewFile(std::filesystem::path const& folder)
     {
         for (int number = 0;; ++number) {
-            name_ = folder / (".warhost-" + std::to_string(number) + ".tmp");
+            name_ = temporary_name(folder, number);
             ::DeleteFileW(name_.c_str()); // left by a save that was killed: what is open stays
-            if (file_.open(name_, GENERIC_WRITE | WRITE_DAC, 0, CREATE_NEW)) break;
+            if (file_.open(name_, GENERIC_WRITE | WRITE_DAC | DELETE, 0, CREATE_NEW)) break;
             require(::GetLastError() == ERROR_FILE_EXISTS);
         }
     }
@@ -128,11 +127,17 @@ public:
 
     void flush() const { require(::FlushFileBuffers(file_.handle()) != 0); }
 
+    /// Open all the while, so that no other save takes it for abandoned.
     void put_in_place(std::filesystem::path const& target)
     {
-        file_.close();
-        constexpr DWORD how = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
-        require(::MoveFileExW(name_.c_str(), target.c_str(), how) != 0);
+        std::wstring const path = std::filesystem::absolute(target).native();
+        std::vector<unsigned char> room(sizeof(FILE_RENAME_INFO) + path.size() * sizeof(wchar_t));
+        auto* const info = reinterpret_cast<FILE_RENAME_INFO*>(room.data());
+        info->ReplaceIfExists = TRUE;
+        info->FileNameLength = static_cast<DWORD>(path.size() * sizeof(wchar_t));
+        std::copy(path.begin(), path.end(), info->FileName);
+        auto const size = static_cast<DWORD>(room.size());
+        require(::SetFileInformationByHandle(file_.handle(), FileRenameInfo, info, size) != 0);
         name_.clear();
     }
 

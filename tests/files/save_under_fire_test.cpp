@@ -15,11 +15,11 @@
 
 namespace {
 
-enum class Blow { device_error, disk_full, cut_short, killed_before, killed_after };
+enum class Blow { device_error, disk_full, cut_short, killed_before, killed_after, device_gone };
 
 struct Fire {
     Blow blow;
-    int at; // the call that is struck, counted from 1
+    int at; // the call that is struck, counted from 1; all the later ones, too, when the device is gone
     bool knows_nameless_files;
     int calls = 0;
     bool unflushed = false;
@@ -30,10 +30,11 @@ Fire* fire = nullptr;
 /// Whether the call that begins now fails.
 bool struck()
 {
-    if (fire == nullptr || ++fire->calls != fire->at) return false;
+    if (fire == nullptr || ++fire->calls < fire->at) return false;
+    if (fire->calls > fire->at && fire->blow != Blow::device_gone) return false;
     if (fire->blow == Blow::killed_before) ::raise(SIGKILL);
     errno = fire->blow == Blow::disk_full ? ENOSPC : EIO;
-    return fire->blow == Blow::device_error || fire->blow == Blow::disk_full;
+    return fire->blow == Blow::device_error || fire->blow == Blow::disk_full || fire->blow == Blow::device_gone;
 }
 
 template <class Result> Result ended(Result result)
@@ -57,6 +58,7 @@ UNDER_FIRE(fchown, (int file, uid_t user, gid_t group), (file, user, group))
 UNDER_FIRE(flock, (int file, int operation), (file, operation))
 UNDER_FIRE(fstat, (int file, struct stat* status), (file, status))
 UNDER_FIRE(linkat, (int from, char const* file, int to, char const* path, int flags), (from, file, to, path, flags))
+UNDER_FIRE(lstat, (char const* path, struct stat* status), (path, status))
 UNDER_FIRE(rename, (char const* from, char const* to), (from, to))
 UNDER_FIRE(stat, (char const* path, struct stat* status), (path, status))
 UNDER_FIRE(unlink, (char const* path), (path))
@@ -65,7 +67,7 @@ int __wrap_fsync(int file) // hundreds of saves need no disk
 {
     if (!struck()) return ended(0);
     struct stat status = {};
-    fire->unflushed = __real_fstat(file, &status) == 0 && S_ISREG(status.st_mode);
+    fire->unflushed |= __real_fstat(file, &status) == 0 && S_ISREG(status.st_mode);
     return -1;
 }
 
@@ -113,8 +115,8 @@ TEST(SaveUnderFire, leaves_the_old_army_or_the_new_one_and_nothing_else)
 {
     std::string const old_army(2000, 'o'), new_army(200000, 'n');
     using Names = std::set<std::string>;
-    for (auto const blow :
-         {Blow::device_error, Blow::disk_full, Blow::cut_short, Blow::killed_before, Blow::killed_after}) {
+    for (auto const blow : {Blow::device_error, Blow::disk_full, Blow::cut_short, Blow::killed_before,
+                            Blow::killed_after, Blow::device_gone}) {
         for (auto const& [replaces, nameless] : {std::pair{false, false}, {false, true}, {true, false}, {true, true}}) {
             Ending ending = saved;
             int at = 1;
@@ -128,9 +130,11 @@ TEST(SaveUnderFire, leaves_the_old_army_or_the_new_one_and_nothing_else)
                 bool const is_old = folder.read("x.Army") == (replaces ? old_army : "");
                 EXPECT_NE(ending, refused_with_wrong_words);
                 EXPECT_TRUE(ending == refused ? is_old : is_new || (is_old && ending == killed));
-                // What a killed save left is gone after the next one.
-                if (ending == killed) replace_file(folder.path("x.Army"), old_army);
-                EXPECT_EQ(folder.names(), ending == refused && !replaces ? Names{} : Names{"x.Army"});
+                // What a save left that was killed, or whose device was gone, is gone after the next one.
+                bool const saves_again = ending == killed || blow == Blow::device_gone;
+                if (saves_again) replace_file(folder.path("x.Army"), old_army);
+                bool const is_there = saves_again || replaces || ending != refused;
+                EXPECT_EQ(folder.names(), is_there ? Names{"x.Army"} : Names{});
             }
             EXPECT_GT(at, 9);
         }

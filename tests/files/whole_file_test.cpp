@@ -41,6 +41,7 @@ TEST_F(WholeFile, says_why_it_cannot_be_used_and_leaves_everything_as_it_was)
         {"loop", "The symbolic links form a loop: "},
         {std::string(300, 'n'), "The file name cannot be used: "},
 #endif
+        {std::string("file\0.Army", 10), "The file name cannot be used: "},
     };
     // clang-format on
     for (auto const& [name, text] : cases) {
@@ -53,6 +54,7 @@ TEST_F(WholeFile, says_why_it_cannot_be_used_and_leaves_everything_as_it_was)
     auto const missing = path("missing"), inside = missing + "/x";
     EXPECT_EQ(caught(read_file, missing).text, "The file was not found: " + missing);
     EXPECT_EQ(caught(replace, inside).text, "The folder was not found: " + inside);
+    EXPECT_EQ(caught(replace, path(".warhost-7.tmp")).text, "The file name cannot be used: " + path(".warhost-7.tmp"));
     EXPECT_EQ(read("file"), "whole");
 }
 
@@ -144,7 +146,7 @@ TEST_F(WholeFile, replaces_a_file_and_keeps_links_and_permissions)
 
 TEST_F(WholeFile, respects_permissions)
 {
-    auto const file = path("file"), secret = path("secret"), born = path("shut/new");
+    auto const file = path("file"), secret = path("secret"), shut = path("shut");
     for (char const* name : {"file", "secret"}) write(name, "whole");
     fs::create_directory(path("shut"));
     for (auto const& [name, mode] : {std::pair{"file", 0444U}, {"secret", 0U}, {"shut", 0555U}, {"", 0777U}})
@@ -154,7 +156,7 @@ TEST_F(WholeFile, respects_permissions)
     EXPECT_EQ(read_file(file), "whole");
     EXPECT_EQ(caught(replace, file).text, "Permission denied: " + file);
     EXPECT_EQ(caught(read_file, secret).text, "Permission denied: " + secret);
-    EXPECT_EQ(caught(replace, born).text, "Permission denied: " + born);
+    EXPECT_EQ(caught(replace, shut + "/new").text, "Permission denied: " + shut);
     EXPECT_EQ(names(), (std::set<std::string>{"file", "secret", "shut"}));
     EXPECT_EQ(read("file"), "whole");
 }

@@ -11,6 +11,7 @@ struct ArmyFiles : testing::Test, Program {
     ArmyFiles() { desktop.chosen = folder.path("x.Army"); }
     void load(std::string const& bytes)
     {
+        std::filesystem::remove(folder.path("x.Army")); // some file systems flush what is overwritten
         folder.write("x.Army", bytes);
         form.cmdLoadArmy.press();
     }

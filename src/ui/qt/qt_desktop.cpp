@@ -20,6 +20,7 @@
 #include <chrono>
 #include <cstdlib>
 #include <future>
+#include <system_error>
 
 namespace warhost {
 
@@ -108,7 +109,12 @@ void QtDesktop::show_progress(std::int32_t fought, std::int32_t battles)
 void QtDesktop::wait_for(std::function<void()> const& work)
 {
     using namespace std::chrono_literals;
-    std::future<void> done = std::async(std::launch::async, work);
+    std::future<void> done;
+    try {
+        done = std::async(std::launch::async, work);
+    } catch (std::system_error const&) { // no more threads
+        return work();
+    }
     if (done.wait_for(500ms) != std::future_status::ready) {
         ProgressDialog waiting{window_, program_title, "Waiting"};
         while (done.wait_for(50ms) != std::future_status::ready) {
@@ -132,11 +138,14 @@ QString QtDesktop::folder_for(FileDialogKind kind)
 {
     bool const saves = kind == FileDialogKind::save;
     QString const samples = to_qt(program_directory()) + "/armies";
-    for (QString const& folder : {last_folder_, saves ? QString{} : samples}) {
-        QFileInfo const info{folder};
-        if (!folder.isEmpty() && info.isDir() && (!saves || info.isWritable())) return folder;
-    }
-    return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    QString chosen;
+    wait_for([&] {
+        for (QString const& folder : {saves ? QString{} : samples, last_folder_}) {
+            QFileInfo const info{folder};
+            if (!folder.isEmpty() && info.isDir() && (!saves || info.isWritable())) chosen = folder;
+        }
+    });
+    return chosen.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) : chosen;
 }
 
 std::optional<std::string> QtDesktop::file_dialog(FileDialog const& dialog)
