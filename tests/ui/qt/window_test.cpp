@@ -14,6 +14,7 @@
 #include <QTimer>
 
 #include <atomic>
+#include <clocale>
 
 namespace warhost {
 
@@ -185,6 +186,22 @@ TEST(Window, whatever_is_clicked_and_typed_the_records_and_the_screen_agree)
             ASSERT_EQ(result.currentText(), to_qt(screen.form.cmbOpt(k).text()));
         }
     }
+}
+
+TEST(Window, shows_and_reads_numbers_as_the_user_writes_them)
+{
+    Screen screen;
+    QString const point = QString::fromUtf8(std::localeconv()->decimal_point);
+    auto& level = screen.named<ValueBox>("cmbLevel");
+    level.lineEdit()->selectAll();
+    QTest::keyClicks(&level, "2" + point + "5");
+    EXPECT_EQ(screen.form.ArmyA.Level, 2.5F);
+    screen.choose_tab(3);
+    for (auto const& [box, percent] : {std::pair{"txtLoserCasualty", "37"}, {"txtVictorCasPercent", "45"}}) {
+        screen.named<QLineEdit>(box).selectAll();
+        QTest::keyClicks(&screen.named<QLineEdit>(box), percent);
+    }
+    EXPECT_EQ(screen.named<QLineEdit>("txtVictorCas").text(), "16" + point + "7");
 }
 
 TEST(Window, closing_asks_first)
