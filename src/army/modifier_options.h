@@ -8,9 +8,8 @@
 
 namespace warhost {
 
-inline constexpr int last_option = 46;
-
-/// Option button `index`: a tag is one whole number, or the lowest and the highest of a range.
+/// Option button `index`, which is also its place in an army file: a tag is one whole number, or the lowest and the
+/// highest of a range.
 struct Option {
     int index;
     int category;
@@ -80,12 +79,12 @@ constexpr Option const* option_of(int index)
 constexpr bool each_option_once()
 {
     for (auto const& option : options) {
-        if (option.index < 0 || option.index > last_option || option.category >= category_count) return false;
+        if (option.index < 0 || option.index >= record_choices || option.category >= category_count) return false;
         if (option_of(option.index) != &option) return false;
     }
     return true;
 }
 
-static_assert(options.size() == 38 && each_option_once());
+static_assert(each_option_once());
 
 } // namespace warhost

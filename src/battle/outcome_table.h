@@ -43,7 +43,7 @@ template <std::size_t rows> constexpr bool leaves_no_gap(std::array<Outcome, row
     return true;
 }
 
-static_assert(outcome_table.size() == 13 && leaves_no_gap(outcome_table));
+static_assert(leaves_no_gap(outcome_table));
 
 /// The row of a margin, which is never negative; nullptr above 10000: no account and no casualties.
 constexpr Outcome const* outcome_of(int WinMargin)

@@ -14,6 +14,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include <algorithm>
 #include <utility>
 
 namespace warhost {
@@ -29,9 +30,14 @@ constexpr int soldiers_width = 56;
 constexpr int ratio_width = 54;
 constexpr int bonus_width = 24;
 
+constexpr int options_of(int category)
+{
+    return static_cast<int>(std::ranges::count(options, category, &Option::category));
+}
+
 // In the middle column stand four rows of frames, with so many options one under the other.
 constexpr int middle_frames = 4;
-constexpr int middle_options = 4 + 6 + 7 + 7;
+constexpr int middle_options = options_of(0) + options_of(2) + options_of(3) + std::max(options_of(7), options_of(4));
 
 } // namespace
 

@@ -210,8 +210,8 @@ TEST(WindowLook, the_tab_key_goes_in_reading_order_through_everything)
     // The options of one frame are one stop; the arrow keys go on from there.
     auto const army = spelled_out(
         "TabStrip txtArmyName cmdSaveArmy cmdLoadArmy txtTotal txtUnitType,txtUnitNum(0-7) txtTotalNo cmbOpt(5) opt(25) "
-        "cmbOpt(1) opt(4) cmbLevel cmbOpt(0) opt(0) cmbOpt(2) opt(7) cmbOpt(3) opt(13) cmbOpt(7) opt(41) cmbOpt(4) opt(20) "
-        "chkMisc,cmbMisc(1-24)");
+        "cmbOpt(1) opt(4) cmbLevel cmbOpt(0) opt(0) cmbOpt(2) opt(7) cmbOpt(3) opt(13) cmbOpt(7) opt(41) cmbOpt(4) opt(20) " +
+        QString{"chkMisc,cmbMisc(1-%1)"}.arg(screen.form.chkMisc.highest()));
     EXPECT_EQ(tab_walk(screen), army);
     screen.choose_tab(3);
     auto const combat = spelled_out(

@@ -1,0 +1,28 @@
+#!/usr/bin/env bash
+# Prints for each folder of the program how many of its lines the tests run. Which those are stands in
+# build/coverage/lines/index.html. What is missing is installed first.
+set -euo pipefail
+cd "$(dirname "$(readlink -f "$0")")/.."
+source scripts/install.sh
+
+install_packages "${packages_build[@]}" gcovr
+build coverage
+find build/coverage -name '*.gcda' -delete # of the runs before
+ctest --preset coverage -j2
+mkdir -p build/coverage/lines
+gcovr --root . --filter src/ --object-directory build/coverage --csv build/coverage/lines.csv \
+    --html-details build/coverage/lines/index.html
+awk -F , '
+    function row(name)
+    {
+        printf "%-12s %6d of %6d lines, %5.1f %%\n", name, ran[name], all[name], 100 * ran[name] / all[name]
+    }
+    NR > 1 {
+        folder = $1
+        sub(/\/[^\/]*$/, "", folder)
+        if (!(folder in all)) folders[++count] = folder
+        all[folder] += $2; all["in all"] += $2
+        ran[folder] += $3; ran["in all"] += $3
+    }
+    END { for (i = 1; i <= count; ++i) row(folders[i]); row("in all") }
+' build/coverage/lines.csv
