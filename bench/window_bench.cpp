@@ -14,8 +14,10 @@
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <ctime>
 #include <fstream>
+#include <iostream>
 #include <string>
 #include <sys/resource.h>
 #include <sys/wait.h>
@@ -88,7 +90,10 @@ double child_time(std::string const& what, int rounds)
         }
         int status = 0;
         rusage usage{};
-        ::wait4(child, &status, 0, &usage);
+        if (::wait4(child, &status, 0, &usage) != child || status != 0) {
+            std::cerr << "No window was shown by --show " << what << '\n';
+            std::exit(EXIT_FAILURE);
+        }
         auto const milliseconds = [](timeval time) {
             return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_usec) / 1e3;
         };

@@ -6,10 +6,12 @@
 
 #include <charconv>
 #include <chrono>
+#include <cstdint>
 #include <cstdlib>
 #include <filesystem>
 #include <iomanip>
 #include <iostream>
+#include <optional>
 
 namespace {
 
@@ -105,7 +107,7 @@ void print_units(Main& form)
 void print_army(Main& form, int side)
 {
     form.TabStrip.choose(side);
-    std::cout << (side == tab_side_a ? "Side A: " : "Side B: ") << form.txtArmyName.text() << '\n';
+    std::cout << side_name(side - tab_side_a) << ": " << form.txtArmyName.text() << '\n';
     print_units(form);
     for (auto const& [k, button] : form.opt) {
         if (!button.selected()) continue;
@@ -136,21 +138,35 @@ void print_battle(Main& form)
 
 void print_losses(Main& form, int Index)
 {
-    std::cout << (Index == 0 ? "Side A" : "Side B") << std::setw(18) << "Had" << std::setw(10) << "Loses" << '\n';
-    for (int row = unit_rows * Index; row < unit_rows * (Index + 1); ++row) {
-        if (form.txtAName(row).text().empty() && form.txtANum(row).text() == "0") continue;
-        std::cout << std::setw(24) << form.txtANum(row).text() << std::setw(10) << form.txtLoses(row).text() << "  "
-                  << form.txtAName(row).text() << '\n';
+    std::cout << side_name(Index) << std::setw(18) << "Had" << std::setw(10) << "Loses" << '\n';
+    for (int row = 0; row < unit_rows; ++row) {
+        int const field = combat_row(Index, row);
+        if (form.txtAName(field).text().empty() && form.txtANum(field).text() == "0") continue;
+        std::cout << std::setw(24) << form.txtANum(field).text() << std::setw(10) << form.txtLoses(field).text() << "  "
+                  << form.txtAName(field).text() << '\n';
     }
     std::cout << '\n';
 }
 
 void print_survivors(Main& form, int Index)
 {
-    std::cout << (Index == 0 ? "Side A" : "Side B") << ", survivors\n";
+    std::cout << side_name(Index) << ", survivors\n";
     form.TabStrip.choose(Index + 1);
     print_units(form);
     std::cout << "  Total modifier " << form.txtTotal.text() << "\n\n";
+}
+
+std::optional<std::uint64_t> seed_of(std::string_view text)
+{
+    std::uint64_t seed = 0;
+    auto const read = std::from_chars(text.data(), text.data() + text.size(), seed);
+    if (read.ec != std::errc{} || read.ptr != text.data() + text.size()) return {};
+    return seed;
+}
+
+std::uint64_t seed_of_the_clock()
+{
+    return static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch().count());
 }
 
 } // namespace
@@ -161,16 +177,12 @@ int main(int argument_count, char** arguments)
         std::cerr << "Usage: fight ARMY_A ARMY_B [SEED]\n";
         return EXIT_FAILURE;
     }
-    auto seed = static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch().count());
-    if (argument_count == 4) {
-        std::string_view const text = arguments[3];
-        auto const read = std::from_chars(text.data(), text.data() + text.size(), seed);
-        if (read.ec != std::errc{} || read.ptr != text.data() + text.size()) {
-            std::cerr << "SEED is a whole number from 0 to 18446744073709551615, not \"" << text << "\"\n";
-            return EXIT_FAILURE;
-        }
+    auto const seed = argument_count == 4 ? seed_of(arguments[3]) : std::optional{seed_of_the_clock()};
+    if (!seed) {
+        std::cerr << "SEED is a whole number from 0 to 18446744073709551615, not \"" << arguments[3] << "\"\n";
+        return EXIT_FAILURE;
     }
-    Generator generator{seed};
+    Generator generator{*seed};
     Terminal terminal{arguments[0]};
     Main form{terminal, generator};
     form.Form_Load();

@@ -40,7 +40,7 @@ void Armies::CalcArmyTotal() { calculate_total(CurArmy); }
 void Armies::CalcOtherTotal(int selected_tab)
 {
     if (selected_tab != tab_side_a && selected_tab != tab_side_b) return;
-    Army& other = of_side(tab_side_a + tab_side_b - selected_tab);
+    Army& other = selected_tab == tab_side_a ? ArmyB : ArmyA;
     Army copy = other;
     calculate_total(copy);
     other = copy;

@@ -4,11 +4,18 @@
 #include "army/army.h"
 
 #include <cstdint>
+#include <string_view>
 
 namespace warhost {
 
 /// Positions of the tabs; 1 and 2 are also the two sides of a battle.
 enum Tab : int { tab_side_a = 1, tab_side_b = 2, tab_combat = 3 };
+
+/// Side A is Index 0, Side B Index 1.
+constexpr std::string_view side_name(int Index) { return Index == 0 ? "Side A" : "Side B"; }
+
+/// The combat screen has the unit rows of both sides in one array, Side A's first.
+constexpr int combat_row(int Index, int row) { return unit_rows * Index + row; }
 
 /// The records of both sides and CurArmy, the working copy of the side whose tab is selected.
 /// Every operation that throws leaves the member it was computing as it was.

@@ -1,5 +1,7 @@
 #include "army/value_conversion.h"
 
+#include "army/characters.h"
+
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -11,23 +13,13 @@ namespace warhost {
 
 namespace {
 
-bool is_digit(char c) { return c >= '0' && c <= '9'; }
-
-char lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
-
-int digit_value(char c)
-{
-    if (is_digit(c)) return c - '0';
-    char const letter = lower(c);
-    return letter >= 'a' && letter <= 'f' ? letter - 'a' + 10 : 99;
-}
-
 double whole_number(std::string_view digits, int base)
 {
     double value = 0;
     for (char const c : digits) {
-        if (digit_value(c) >= base) break;
-        value = value * base + digit_value(c);
+        auto const digit = hex_digit(c);
+        if (!digit || *digit >= base) break;
+        value = value * base + *digit;
     }
     return value;
 }
@@ -181,6 +173,12 @@ std::string SignedText(std::int64_t n) { return (n < 0 ? "" : "+") + plain_text(
 
 std::string plain_text(std::int64_t n) { return std::to_string(n); }
 
+std::string with_decimal_separator(std::string number, NumberFormat const& format)
+{
+    if (auto const point = number.find('.'); point != std::string::npos) number.replace(point, 1, format.decimal);
+    return number;
+}
+
 std::string general_text(float value, NumberFormat const& format)
 {
     if (value == 0 || !std::isfinite(value)) return "0";
@@ -191,8 +189,7 @@ std::string general_text(float value, NumberFormat const& format)
                                       plain ? std::chars_format::fixed : std::chars_format::scientific);
     std::string text{buffer.begin(), result.ptr};
     if (auto const exponent = text.find('e'); exponent != std::string::npos) text[exponent] = 'E';
-    if (auto const point = text.find('.'); point != std::string::npos) text.replace(point, 1, format.decimal);
-    return text;
+    return with_decimal_separator(text, format);
 }
 
 std::string tenths_text(std::int64_t tenths, NumberFormat const& format)

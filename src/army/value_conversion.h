@@ -37,6 +37,9 @@ std::string SignedText(std::int64_t n);
 /// Plain decimal digits, "-" in front of a negative number.
 std::string plain_text(std::int64_t n);
 
+/// A number with "." between its digits as the region writes it.
+std::string with_decimal_separator(std::string number, NumberFormat const& format);
+
 /// The fewest decimals that read back as value, with the regional decimal separator: "1", "2.5". An exponent appears
 /// below 1E-5 and from 1E+15 on. What is no finite number gives "0".
 std::string general_text(float value, NumberFormat const& format);

@@ -21,7 +21,8 @@ template <class Source> int roll_between(Source& random, int low, int high)
     }
 }
 
-/// 1 to 20.
-template <class Source> int roll_d20(Source& random) { return roll_between(random, 1, 20); }
+inline constexpr int die_sides = 20;
+
+template <class Source> int roll_d20(Source& random) { return roll_between(random, 1, die_sides); }
 
 } // namespace warhost

@@ -1,6 +1,5 @@
 #include "battle/simulation.h"
 
-#include "battle/dice.h"
 #include "battle/victor_table.h"
 
 #include <algorithm>
@@ -12,7 +11,6 @@ namespace warhost {
 
 namespace {
 
-constexpr int die_sides = 20;
 constexpr double normal_95 = 1.96; // standard deviations on either side that hold 95 in a hundred
 constexpr int read_limit = 32000;  // of a result read from the screen
 constexpr int highest_bonus = casualty_roll_bonus(outcome_table.back().last);
@@ -147,8 +145,8 @@ double Tally::casualty_margin(int Index) const
 
 double share_margin(std::int64_t battles) { return normal_95 * 50 / std::sqrt(static_cast<double>(battles)); }
 
-Simulation::Simulation(int modifier_a, int modifier_b, CarriedOver screen)
-    : screen_{screen.result_b, std::clamp(screen.victor_roll, lowest_roll, highest_roll)}
+Simulation::Simulation(int modifier_a, int modifier_b, CarriedOver before)
+    : carried_over_{before.result_b, std::clamp(before.victor_roll, lowest_roll, highest_roll)}
 {
     auto const as_read = [](int modifier, std::size_t die) {
         return static_cast<std::int16_t>(std::clamp(modifier + static_cast<int>(die) + 1, -read_limit, read_limit));
@@ -161,8 +159,8 @@ Simulation::Simulation(int modifier_a, int modifier_b, CarriedOver screen)
         for (std::size_t b = 0; b < die_sides; ++b) {
             int const winner = winner_of(results_a_.at(a), results_b_.at(b));
             int const margin = std::abs(results_a_.at(a) - results_b_.at(b));
-            meetings_.at(a * die_sides + b) = {static_cast<std::uint16_t>(Tally::place_of(winner, margin)),
-                                               static_cast<std::uint8_t>(casualty_roll_bonus(margin)), winner == tie};
+            meetings_.at(a).at(b) = {static_cast<std::uint16_t>(Tally::place_of(winner, margin)),
+                                     static_cast<std::uint8_t>(casualty_roll_bonus(margin)), winner == tie};
         }
     }
 }
@@ -193,15 +191,15 @@ template <class Source> void Simulation::run(Source& source, std::int32_t battle
         // A tie of the two results evaluates the victor's roll that still stands there from before, and draws the
         // percentage, which can only be 100. Side A's new result meets Side B's old one first.
         auto const evaluate_shown_roll = [&] {
-            boxes = boxes_after_shown[shown_index(screen_.victor_roll, boxes)];
+            boxes = boxes_after_shown[shown_index(carried_over_.victor_roll, boxes)];
             roll_between(source, tie_percent, tie_percent);
         };
         unsigned const die_a = roll();
-        if (results_a_[die_a - 1] == screen_.result_b) [[unlikely]]
+        if (results_a_[die_a - 1] == carried_over_.result_b) [[unlikely]]
             evaluate_shown_roll();
         unsigned const die_b = roll();
-        screen_.result_b = results_b_[die_b - 1];
-        Meeting const meeting = meetings_[(die_a - 1) * die_sides + die_b - 1];
+        carried_over_.result_b = results_b_[die_b - 1];
+        Meeting const meeting = meetings_[die_a - 1][die_b - 1];
         if (meeting.tie) [[unlikely]]
             evaluate_shown_roll();
 
@@ -211,7 +209,7 @@ template <class Source> void Simulation::run(Source& source, std::int32_t battle
             judgement = judgements[judgement_index(meeting.bonus, judgement.boxes, roll())];
             share = share_of(meeting, judgement.low, judgement.span);
         }
-        screen_.victor_roll = judgement.roll;
+        carried_over_.victor_roll = judgement.roll;
         tally_.count(meeting.place + static_cast<std::size_t>(share));
     }
 }

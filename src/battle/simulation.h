@@ -2,6 +2,7 @@
 #pragma once
 
 #include "battle/battle_state.h"
+#include "battle/dice.h"
 #include "battle/outcome_table.h"
 #include "battle/random.h"
 
@@ -59,11 +60,11 @@ struct CarriedOver {
 class Simulation {
 public:
     /// Total modifiers -32000 to 32000, as read from the combat screen.
-    Simulation(int modifier_a, int modifier_b, CarriedOver screen);
+    Simulation(int modifier_a, int modifier_b, CarriedOver before);
 
     void fight(RandomSource& random, std::int32_t battles);
 
-    CarriedOver carried_over() const { return screen_; }
+    CarriedOver carried_over() const { return carried_over_; }
     Tally& tally() { return tally_; }
 
 private:
@@ -76,10 +77,10 @@ private:
 
     template <class Source> void run(Source& source, std::int32_t battles);
 
-    std::array<std::int16_t, 20> results_a_{};
-    std::array<std::int16_t, 20> results_b_{};
-    std::array<Meeting, 400> meetings_{};
-    CarriedOver screen_;
+    std::array<std::int16_t, die_sides> results_a_{};
+    std::array<std::int16_t, die_sides> results_b_{};
+    std::array<std::array<Meeting, die_sides>, die_sides> meetings_{}; // by Side A's die, then Side B's
+    CarriedOver carried_over_;
     Tally tally_;
 };
 

@@ -48,7 +48,7 @@ std::vector<ModifierEntry> parse_modifier_list(std::string_view bytes)
             values.remove_prefix(bar + 1);
         }
         entry.low = entry.high = entry.initial = TextToInt(values);
-        std::string_view last_text = *name;
+        std::string_view last_text = *name; // or what follows the comma
         if (auto const comma = values.find(','); comma != std::string_view::npos) {
             last_text = values.substr(comma + 1);
             entry.high = TextToInt(last_text);

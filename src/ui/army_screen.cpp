@@ -6,14 +6,9 @@
 
 namespace warhost {
 
-namespace {
-
-/// The first of a tab's eight unit rows on the combat screen.
-int row_base(int tab) { return tab == tab_side_b ? unit_rows : 0; }
-
-} // namespace
-
 bool Main::army_tab_selected() { return TabStrip.position() == tab_side_a || TabStrip.position() == tab_side_b; }
+
+int Main::shown_side() { return TabStrip.position() == tab_side_b ? 1 : 0; }
 
 void Main::CurArmy_Save()
 {
@@ -72,8 +67,8 @@ void Main::txtUnitType_Change(int Index)
 {
     CurArmy.UnitType.at(Index) = txtUnitType(Index).text();
     CurArmy_Save();
-    int const base = row_base(TabStrip.position());
-    for (int row = 0; row < unit_rows; ++row) txtAName(base + row).set_text(txtUnitType(row).text());
+    int const side = shown_side();
+    for (int row = 0; row < unit_rows; ++row) txtAName(combat_row(side, row)).set_text(txtUnitType(row).text());
 }
 
 void Main::txtUnitNum_Change(int Index)
@@ -81,8 +76,8 @@ void Main::txtUnitNum_Change(int Index)
     CurArmy.UnitNum.at(Index) = TextToLong(txtUnitNum(Index).text());
     quiet_step([&] { CalcTotalNo(); });
     CalcTotal();
-    int const base = row_base(TabStrip.position());
-    for (int row = 0; row < unit_rows; ++row) txtANum(base + row).set_text(txtUnitNum(row).text());
+    int const side = shown_side();
+    for (int row = 0; row < unit_rows; ++row) txtANum(combat_row(side, row)).set_text(txtUnitNum(row).text());
 }
 
 void Main::opt_Click(int Index)

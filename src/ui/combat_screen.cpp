@@ -13,7 +13,7 @@ namespace warhost {
 
 namespace {
 
-/// Where each side's losses go: Index 0 for Side A, 1 for Side B.
+/// Whose rows take the loser's percentage, and whose the victor's: on a tie Side A's and Side B's.
 int loser_index(int Winner) { return Winner == side_a_won ? 1 : 0; }
 int victor_index(int Winner) { return 1 - loser_index(Winner); }
 
@@ -112,7 +112,7 @@ void Main::txtVictorCas_Change() { spread_losses(victor_index(battle.Winner), Te
 void Main::spread_losses(int Index, int percent)
 {
     for (int row = 0; row < unit_rows; ++row) {
-        txtLoses(unit_rows * Index + row).set_text(plain_text(row_loss(of_side(Index + 1).UnitNum.at(row), percent)));
+        txtLoses(combat_row(Index, row)).set_text(plain_text(row_loss(of_side(Index + 1).UnitNum.at(row), percent)));
     }
 }
 
@@ -122,7 +122,7 @@ void Main::cmdApplyCasualties_Click(int Index)
     Army& other = of_side(2 - Index);
     Army copy = own;
     for (int row = 0; row < unit_rows; ++row) {
-        int const field = unit_rows * Index + row;
+        int const field = combat_row(Index, row);
         std::int32_t& soldiers = copy.UnitNum.at(row);
         quiet_step([&] { soldiers = checked_difference(soldiers, TextToLong(txtLoses(field).text())); });
         txtANum(field).set_text(plain_text(soldiers));
@@ -133,7 +133,7 @@ void Main::cmdApplyCasualties_Click(int Index)
     quiet_step([&] { CalcArmyTotal(); });
     own = CurArmy;
     if (CurArmy.TotalNo <= 0) {
-        desktop_.message_box({.text = std::string{Index == 0 ? "Side A" : "Side B"} + " has been annihilated!"});
+        desktop_.message_box({.text = std::string{side_name(Index)} + " has been annihilated!"});
     }
     CurArmy = other;
     quiet_step([&] { CalcArmyTotal(); });

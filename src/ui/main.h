@@ -248,6 +248,8 @@ public:
 private:
     void connect_handlers();
     bool army_tab_selected();
+    /// Index 0 or 1; 0 also on the combat tab.
+    int shown_side();
     /// Rows that the record can hold: none while check boxes and values do not come in equal numbers.
     int counted_misc_rows();
     void show_total_modifiers();

@@ -1,5 +1,6 @@
 #include "ui/rich_text_reader.h"
 
+#include "army/characters.h"
 #include "files/code_page.h"
 
 #include <algorithm>
@@ -34,17 +35,7 @@ struct ControlWord {
     int number_or(int fallback) const { return number.value_or(fallback); }
 };
 
-bool is_letter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
-bool is_digit(char c) { return c >= '0' && c <= '9'; }
 bool is_continuation(char c) { return (static_cast<unsigned char>(c) & 0xC0U) == 0x80; }
-
-std::optional<unsigned> hex_digit(char c)
-{
-    constexpr std::string_view digits = "0123456789abcdef";
-    auto const value = digits.find(c >= 'A' && c <= 'F' ? static_cast<char>(c - 'A' + 'a') : c);
-    if (value == std::string_view::npos) return {};
-    return static_cast<unsigned>(value);
-}
 
 class Reader {
 public:
@@ -58,6 +49,14 @@ public:
     }
 
 private:
+    bool next_is(bool (*kind)(char)) const { return at_ < text_.size() && kind(text_[at_]); }
+
+    /// To the end of a character of several bytes.
+    void skip_continuation()
+    {
+        while (next_is(is_continuation)) ++at_;
+    }
+
     void step()
     {
         char const c = text_[at_];
@@ -96,8 +95,8 @@ private:
     void plain_character()
     {
         std::size_t const start = at_++;
-        while (at_ < text_.size() && is_continuation(text_[at_])) ++at_;
-        shown(text_.substr(start, at_ - start));
+        skip_continuation();
+        take_character(text_.substr(start, at_ - start));
     }
 
     /// Behind a backslash.
@@ -120,11 +119,11 @@ private:
             break;
         case '~':
             ++at_;
-            shown(utf8_of(0xA0));
+            take_character(utf8_of(0xA0));
             break;
         case '_':
             ++at_;
-            shown(utf8_of(0x2011));
+            take_character(utf8_of(0x2011));
             break;
         case '\r':
         case '\n':
@@ -133,7 +132,7 @@ private:
             break;
         default: // an unknown symbol, all its bytes
             ++at_;
-            while (at_ < text_.size() && is_continuation(text_[at_])) ++at_;
+            skip_continuation();
         }
     }
 
@@ -148,21 +147,20 @@ private:
         if (!high || !low) return;
         at_ += 2;
         char const byte = static_cast<char>(*high * 16 + *low);
-        shown(utf8_of_windows_1252({&byte, 1}));
+        take_character(utf8_of_windows_1252({&byte, 1}));
     }
 
     ControlWord read_control()
     {
         std::size_t const start = at_;
-        while (at_ < text_.size() && is_letter(text_[at_])) ++at_;
+        while (next_is(is_letter)) ++at_;
         ControlWord control{text_.substr(start, at_ - start), {}};
 
         bool const minus = at_ + 1 < text_.size() && text_[at_] == '-' && is_digit(text_[at_ + 1]);
         if (minus) ++at_;
-        if (at_ < text_.size() && is_digit(text_[at_])) {
+        if (next_is(is_digit)) {
             int number = 0;
-            for (; at_ < text_.size() && is_digit(text_[at_]); ++at_)
-                number = std::min(number * 10 + (text_[at_] - '0'), largest_number);
+            for (; next_is(is_digit); ++at_) number = std::min(number * 10 + (text_[at_] - '0'), largest_number);
             control.number = minus ? -number : number;
         }
         if (at_ < text_.size() && text_[at_] == ' ') ++at_;
@@ -180,7 +178,7 @@ private:
             Row{"plain", [](Reader& r, ControlWord const&) { r.reset_look(); }},
             Row{"par", [](Reader& r, ControlWord const&) { r.end_paragraph(); }},
             Row{"line", [](Reader& r, ControlWord const&) { r.end_paragraph(); }},
-            Row{"tab", [](Reader& r, ControlWord const&) { r.shown("\t"); }},
+            Row{"tab", [](Reader& r, ControlWord const&) { r.take_character("\t"); }},
             Row{"f", [](Reader& r, ControlWord const& c) { r.state_.font = c.number_or(0); }},
             Row{"fs", [](Reader& r, ControlWord const& c) { r.state_.half_points = std::max(1, c.number_or(24)); }},
             Row{"cf", [](Reader& r, ControlWord const& c) { r.state_.colour = c.number_or(0); }},
@@ -221,7 +219,7 @@ private:
     void skip_bytes(int count)
     {
         at_ += std::min(static_cast<std::size_t>(std::max(0, count)), text_.size() - at_);
-        while (at_ < text_.size() && is_continuation(text_[at_])) ++at_;
+        skip_continuation();
     }
 
     /// A 16-bit unit, often written as a negative number; characters beyond them come as two.
@@ -234,12 +232,12 @@ private:
         if (low) {
             char32_t const first = surrogate_;
             surrogate_ = 0;
-            shown(utf8_of(first != 0 ? 0x10000 + ((first - 0xD800) << 10) + (unit - 0xDC00) : replacement));
+            take_character(utf8_of(first != 0 ? 0x10000 + ((first - 0xD800) << 10) + (unit - 0xDC00) : replacement));
         } else if (high) {
             end_surrogate();
             surrogate_ = unit;
         } else {
-            shown(utf8_of(unit));
+            take_character(utf8_of(unit));
         }
         to_skip_ = state_.substitutes;
     }
@@ -253,7 +251,7 @@ private:
     }
 
     /// One character of the current destination, unless it substitutes one that is shown already.
-    void shown(std::string_view character)
+    void take_character(std::string_view character)
     {
         if (to_skip_ > 0) {
             --to_skip_;

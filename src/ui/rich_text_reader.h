@@ -19,7 +19,7 @@ struct RichTextColour {
 
 /// Neighbouring characters of one look.
 struct RichTextRun {
-    std::string text; // UTF-8; no control character but the tab
+    std::string text; // UTF-8; no ASCII control character but the tab
     bool bold = false;
     std::string font; // as the font table calls it, at most 64 bytes; empty: not in the table
     double points = 12;

@@ -1,10 +1,28 @@
 #include "ui/simulation_report.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 
 namespace warhost {
+
+namespace {
+
+/// Two significant digits, rounded up so that the margin holds.
+std::string margin_text(double margin, NumberFormat const& format)
+{
+    if (margin == 0) return "0";
+    int const decimals = std::clamp(1 - static_cast<int>(std::floor(std::log10(margin))), 0, 9);
+    double const scale = std::pow(10, decimals);
+    std::array<char, 32> buffer{};
+    auto* const end = std::to_chars(buffer.begin(), buffer.end(), std::ceil(margin * scale) / scale,
+                                    std::chars_format::fixed, decimals)
+                          .ptr;
+    return with_decimal_separator({buffer.begin(), end}, format);
+}
+
+} // namespace
 
 std::string simulation_report(Tally const& tally, NumberFormat const& format)
 {
@@ -28,25 +46,6 @@ std::string simulation_report(Tally const& tally, NumberFormat const& format)
            "   " +
            share(tie) + "\r\n";
 }
-
-namespace {
-
-/// Two significant digits, rounded up so that the margin holds.
-std::string margin_text(double margin, NumberFormat const& format)
-{
-    if (margin == 0) return "0";
-    int const decimals = std::clamp(1 - static_cast<int>(std::floor(std::log10(margin))), 0, 9);
-    double const scale = std::pow(10, decimals);
-    std::array<char, 32> buffer{};
-    auto* const end = std::to_chars(buffer.begin(), buffer.end(), std::ceil(margin * scale) / scale,
-                                    std::chars_format::fixed, decimals)
-                          .ptr;
-    std::string text{buffer.begin(), end};
-    if (auto const point = text.find('.'); point != std::string::npos) text.replace(point, 1, format.decimal);
-    return text;
-}
-
-} // namespace
 
 std::string simulation_margin(Tally const& tally, NumberFormat const& format)
 {

@@ -1,12 +1,12 @@
 #include "ui/qt/about_box.h"
 
 #include "ui/desktop.h"
+#include "ui/qt/scale.h"
 #include "ui/version.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QFontInfo>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPlainTextEdit>
@@ -14,16 +14,12 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include <algorithm>
-
 namespace warhost {
 
 namespace {
 
 constexpr int client_width = 5715; // twips
 constexpr int client_height = 4335;
-constexpr double base_twips_per_pixel = 15;
-constexpr double base_font_pixels = 11;
 constexpr double title_points = 12;
 constexpr int emblem_pixels = 108;
 
@@ -49,6 +45,36 @@ QWidget* line(char const* name, QPalette::ColorRole shade)
     made->setBackgroundRole(shade);
     made->setFixedHeight(1);
     return made;
+}
+
+QLabel* emblem()
+{
+    auto* const picIcon = label("picIcon");
+    picIcon->setFixedSize(emblem_pixels, emblem_pixels);
+    picIcon->setPixmap(QPixmap{":/icons/emblem.png"});
+    picIcon->setAccessibleName("The emblem of Warhost");
+    return picIcon;
+}
+
+QLabel* title(double scale)
+{
+    auto* const lblTitle = label("lblTitle", "", true);
+    QFont font = lblTitle->font();
+    font.setPointSizeF(title_points * scale);
+    lblTitle->setFont(font);
+    return lblTitle;
+}
+
+QPlainTextEdit* notice_box(QString const& notice)
+{
+    auto* const TextOGL = new QPlainTextEdit{notice};
+    TextOGL->setObjectName("TextOGL");
+    TextOGL->setAccessibleName("Legal notice");
+    TextOGL->setReadOnly(true);
+    TextOGL->setTabChangesFocus(true);
+    TextOGL->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    TextOGL->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    return TextOGL;
 }
 
 QString legal_notice(QString const& folder)
@@ -94,28 +120,11 @@ void AboutBox::Form_Load()
 
 void AboutBox::arrange(QString const& notice)
 {
-    double const scale = std::max(1.0, QFontInfo{font()}.pixelSize() / base_font_pixels);
-    setFixedSize(
-        QSizeF{client_width / base_twips_per_pixel * scale, client_height / base_twips_per_pixel * scale}.toSize());
+    double const scale = growth(font());
+    double const base = Scale::base_twips_per_pixel;
+    setFixedSize(QSizeF{client_width / base * scale, client_height / base * scale}.toSize());
 
-    auto* const picIcon = label("picIcon");
-    picIcon->setFixedSize(emblem_pixels, emblem_pixels);
-    picIcon->setPixmap(QPixmap{":/icons/emblem.png"});
-    picIcon->setAccessibleName("The emblem of Warhost");
-
-    auto* const lblTitle = label("lblTitle", "", true);
-    QFont title_font = lblTitle->font();
-    title_font.setPointSizeF(title_points * scale);
-    lblTitle->setFont(title_font);
-
-    auto* const TextOGL = new QPlainTextEdit{notice};
-    TextOGL->setObjectName("TextOGL");
-    TextOGL->setAccessibleName("Legal notice");
-    TextOGL->setReadOnly(true);
-    TextOGL->setTabChangesFocus(true);
-    TextOGL->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    TextOGL->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-
+    auto* const TextOGL = notice_box(notice);
     auto* const cmdOK = new QPushButton{"OK"};
     cmdOK->setObjectName("cmdOK");
     cmdOK->setDefault(true);
@@ -124,14 +133,14 @@ void AboutBox::arrange(QString const& notice)
     auto* const heads = new QVBoxLayout;
     heads->setSpacing(4);
     heads->addSpacing(6);
-    heads->addWidget(lblTitle);
+    heads->addWidget(title(scale));
     heads->addWidget(label("lblVersion"));
     heads->addStretch();
     heads->addWidget(label("Label1", "Open Gaming License Version 1.0a", true));
 
     auto* const top = new QHBoxLayout;
     top->setSpacing(12);
-    top->addWidget(picIcon, 0, Qt::AlignTop);
+    top->addWidget(emblem(), 0, Qt::AlignTop);
     top->addLayout(heads, 1);
 
     auto* const etched = new QVBoxLayout;

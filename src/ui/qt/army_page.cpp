@@ -76,22 +76,15 @@ ArmyPage::ArmyPage(Main& form, Scale const& scale, QSize content, std::function<
 
 QLayout* ArmyPage::top_line()
 {
-    auto* const line = new QHBoxLayout;
-    line->setSpacing(make_.pixels(6));
-    auto* const name_label = make_.label(form_.Label(0));
+    auto* const line = make_.line(6);
     auto* const name = make_.text_box(form_.txtArmyName, "Name of army", 260);
     name->setPlaceholderText("Type a name, or load an army");
-    name_label->setBuddy(name);
-    line->addWidget(name_label);
-    line->addWidget(name);
+    add_labelled(*line, make_.label(form_.Label(0)), name);
     line->addWidget(make_.button(form_.cmdSaveArmy, "Save army", 60));
     line->addWidget(make_.button(form_.cmdLoadArmy, "Load army", 60));
     line->addStretch();
-    auto* const total_label = make_.label(form_.Label4);
-    auto* const total = make_.number_box(form_.txtTotal, "Total of modifiers, this screen only", 60);
-    total_label->setBuddy(total);
-    line->addWidget(total_label);
-    line->addWidget(total);
+    add_labelled(*line, make_.label(form_.Label4),
+                 make_.number_box(form_.txtTotal, "Total of modifiers, this screen only", 60));
     return line;
 }
 
@@ -111,12 +104,11 @@ QLayout* ArmyPage::middle_column()
 {
     auto* const column = new QVBoxLayout;
     column->setSpacing(make_.pixels(gap));
-    auto* const pair = new QHBoxLayout;
-    pair->setSpacing(make_.pixels(gap));
     for (auto const& [index, frame] : {std::pair{0, &form_.FrameDiscipline}, {2, &form_.Frame2}, {3, &form_.Frame3}}) {
         column->addWidget(category(index, *frame, result_width));
         column->addStretch();
     }
+    auto* const pair = make_.line(gap);
     pair->addWidget(category(7, form_.Frame11, narrow_result_width), 15);
     pair->addWidget(category(4, form_.Frame4, narrow_result_width), 16); // the longer caption
     column->addLayout(pair);
@@ -128,7 +120,7 @@ QWidget* ArmyPage::units()
     CaptionFrame* const frame = make_.frame(form_.FrameUnits);
     auto* const grid = new QGridLayout{frame};
     grid->setContentsMargins(0, frame->caption_height(), 0, 0);
-    grid->setHorizontalSpacing(make_.pixels(4));
+    grid->setHorizontalSpacing(make_.pixels(gap));
     grid->setVerticalSpacing(0);
     grid->setColumnStretch(1, 1);
     auto* const heads = new QHBoxLayout;
@@ -139,14 +131,13 @@ QWidget* ArmyPage::units()
 
     for (int row = 0; row < unit_rows; ++row) {
         grid->setRowStretch(row + 1, 1);
-        auto* const number = make_.label(form_.Label(row < 6 ? row + 1 : row + 17));
-        auto* const type = make_.text_box(form_.txtUnitType(row), QString{"Unit %1, type"}.arg(row + 1));
+        QString const unit = QString{"Unit %1, "}.arg(row + 1);
+        auto* const number = make_.label(form_.Label(row < 6 ? row + 1 : row + 17)); // 1 to 6, 23, 24
+        auto* const type = make_.text_box(form_.txtUnitType(row), unit + "type");
         number->setBuddy(type);
         grid->addWidget(number, row + 1, 0);
         grid->addWidget(type, row + 1, 1);
-        grid->addWidget(
-            make_.number_box(form_.txtUnitNum(row), QString{"Unit %1, soldiers"}.arg(row + 1), soldiers_width), row + 1,
-            2);
+        grid->addWidget(make_.number_box(form_.txtUnitNum(row), unit + "soldiers", soldiers_width), row + 1, 2);
     }
     auto* const total_label = make_.label(form_.Label3);
     auto* const total = make_.number_box(form_.txtTotalNo, "Total number of soldiers", soldiers_width);
@@ -159,9 +150,8 @@ QWidget* ArmyPage::units()
 
 QLayout* ArmyPage::ratio_line()
 {
-    auto* const line = new QHBoxLayout;
-    line->setContentsMargins(make_.pixels(4), 0, make_.pixels(4), 0);
-    line->setSpacing(make_.pixels(4));
+    auto* const line = make_.line(gap);
+    line->setContentsMargins(make_.pixels(gap), 0, make_.pixels(gap), 0);
     line->addWidget(make_.label(form_.Label12));
     line->addWidget(make_.label(form_.lblRatio, ratio_width));
     line->addWidget(make_.label(form_.Label14));
@@ -210,8 +200,7 @@ QWidget* ArmyPage::experience()
     first->addWidget(level);
     lines->addLayout(first);
 
-    auto* const second = new QHBoxLayout;
-    second->setSpacing(make_.pixels(4));
+    auto* const second = make_.line(gap);
     second->addWidget(make_.label(form_.Label16));
     second->addWidget(make_.label(form_.lblOtherLevel, 64));
     second->addWidget(make_.label(form_.Label18));

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace warhost {
 
@@ -42,14 +43,14 @@ CasualtyHistogram::CasualtyHistogram(QString const& side, std::array<std::int64_
         shares_.at(percent) = 100 * static_cast<double>(battles.at(percent)) / all;
     }
     auto const* const most = std::max_element(shares_.begin(), shares_.end());
-    highest_ = *most;
+    step_ = round_step(*most);
+    steps_ = static_cast<int>(std::ceil(*most / step_));
     prefer_fixed_height(*this);
     setAccessibleName(title_);
-    setAccessibleDescription(QString("Histogram. Mean %1%. The most frequent "
-                                     "loss is %2%, in %3% of the battles.")
+    setAccessibleDescription(QString{"Histogram. Mean %1%. The most frequent loss is %2%, in %3% of the battles."}
                                  .arg(mean_text)
                                  .arg(most - shares_.begin())
-                                 .arg(QLocale::system().toString(highest_, 'f', 1)));
+                                 .arg(QLocale::system().toString(*most, 'f', 1)));
 }
 
 QSize CasualtyHistogram::sizeHint() const
@@ -61,49 +62,73 @@ QSize CasualtyHistogram::sizeHint() const
 void CasualtyHistogram::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter{this};
-    QFontMetrics const metrics = fontMetrics();
-    int const line = metrics.height();
-    QRect const plot = rect().adjusted(metrics.horizontalAdvance("100% "), line * 5 / 2, -line, -line * 2);
     painter.setPen(palette().color(QPalette::WindowText));
-    painter.drawText(QRect{0, 0, width(), line}, Qt::AlignLeft, title_);
+    painter.drawText(QRect{0, 0, width(), fontMetrics().height()}, Qt::AlignLeft, title_);
+    draw_axes(painter);
+    draw_bars(painter);
+    draw_mean(painter);
+}
 
-    double const step = round_step(highest_);
-    int const steps = static_cast<int>(std::ceil(highest_ / step));
-    double const top = step * steps;
-    auto const y_of = [&](double share) { return plot.bottom() + 1 - qRound(plot.height() * share / top); };
-    auto const x_of = [&](double percent) {
-        return plot.left() + qRound(plot.width() * (percent + 0.5) / (highest_share + 1));
-    };
-    for (int line_at = 0; line_at <= steps; ++line_at) {
-        double const share = line_at * step;
+QRect CasualtyHistogram::plot() const
+{
+    int const line = fontMetrics().height();
+    return rect().adjusted(fontMetrics().horizontalAdvance("100% "), line * 5 / 2, -line, -line * 2);
+}
+
+int CasualtyHistogram::x_of(double percent) const
+{
+    return plot().left() + qRound(plot().width() * (percent + 0.5) / (highest_share + 1));
+}
+
+int CasualtyHistogram::y_of(double share) const
+{
+    return plot().bottom() + 1 - qRound(plot().height() * share / (step_ * steps_));
+}
+
+void CasualtyHistogram::draw_axes(QPainter& painter) const
+{
+    int const line = fontMetrics().height();
+    QRect const area = plot();
+    for (int mark = 0; mark <= steps_; ++mark) {
+        double const share = mark * step_;
+        int const y = y_of(share);
         painter.setPen(palette().color(QPalette::Mid));
-        painter.drawLine(plot.left(), y_of(share), plot.right(), y_of(share));
+        painter.drawLine(area.left(), y, area.right(), y);
         painter.setPen(palette().color(QPalette::WindowText));
-        painter.drawText(QRect{0, y_of(share) - line / 2, plot.left() - line / 3, line},
-                         Qt::AlignRight | Qt::AlignVCenter, percent_label(share));
+        painter.drawText(QRect{0, y - line / 2, area.left() - line / 3, line}, Qt::AlignRight | Qt::AlignVCenter,
+                         percent_label(share));
     }
     for (int percent = 0; percent <= highest_share; percent += percent_marks) {
-        painter.drawLine(x_of(percent), plot.bottom() + 1, x_of(percent), plot.bottom() + 1 + line / 4);
-        painter.drawText(QRect{x_of(percent) - line * 2, plot.bottom() + line / 3, line * 4, line}, Qt::AlignHCenter,
+        int const x = x_of(percent);
+        painter.drawLine(x, area.bottom() + 1, x, area.bottom() + 1 + line / 4);
+        painter.drawText(QRect{x - line * 2, area.bottom() + line / 3, line * 4, line}, Qt::AlignHCenter,
                          QString::number(percent));
     }
+}
 
-    QColor const bars = palette().color(QPalette::Highlight);
+void CasualtyHistogram::draw_bars(QPainter& painter) const
+{
+    int const bottom = plot().bottom() + 1;
     for (int percent = 0; percent <= highest_share; ++percent) {
         double const share = shares_.at(static_cast<std::size_t>(percent));
         if (share <= 0) continue;
         int const left = x_of(percent - 0.5);
-        int const height = std::max(plot.bottom() + 1 - y_of(share), 1); // the rarest loss shows
-        painter.fillRect(left, plot.bottom() + 1 - height, std::max(x_of(percent + 0.5) - left - 1, 1), height, bars);
+        int const width = std::max(x_of(percent + 0.5) - left - 1, 1);
+        int const height = std::max(bottom - y_of(share), 1); // the rarest loss shows
+        painter.fillRect(left, bottom - height, width, height, palette().color(QPalette::Highlight));
     }
+}
 
+void CasualtyHistogram::draw_mean(QPainter& painter) const
+{
+    QFontMetrics const metrics = fontMetrics();
+    int const line = metrics.height();
+    int const x = x_of(mean_);
     painter.setPen(QPen{palette().color(QPalette::WindowText), 1, Qt::DashLine});
-    int const mean_x = x_of(mean_);
-    painter.drawLine(mean_x, plot.top() - line / 4, mean_x, plot.bottom());
-    QString const mean_label = "mean " + mean_text_ + "%";
-    int const label_width = metrics.horizontalAdvance(mean_label);
-    painter.drawText(std::min(mean_x + line / 3, width() - label_width), plot.top() - metrics.descent() - line / 8,
-                     mean_label);
+    painter.drawLine(x, plot().top() - line / 4, x, plot().bottom());
+    QString const label = "mean " + mean_text_ + "%";
+    painter.drawText(std::min(x + line / 3, width() - metrics.horizontalAdvance(label)),
+                     plot().top() - metrics.descent() - line / 8, label);
 }
 
 OutcomeBar::OutcomeBar(std::array<OutcomePart, 3> parts, QWidget* parent) : QWidget(parent), parts_(std::move(parts))

@@ -13,7 +13,7 @@ namespace warhost {
 /// The share of battles by the percentage that one side lost, 0 to 110, with the mean marked.
 class CasualtyHistogram : public QWidget {
 public:
-    /// mean: as the report's text writes it.
+    /// mean_text: as the report's text writes it.
     CasualtyHistogram(QString const& side, std::array<std::int64_t, highest_share + 1> const& battles, double mean,
                       QString const& mean_text, QWidget* parent = nullptr);
 
@@ -24,11 +24,19 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    QRect plot() const;
+    int x_of(double percent) const;
+    int y_of(double share) const;
+    void draw_axes(QPainter& painter) const;
+    void draw_bars(QPainter& painter) const;
+    void draw_mean(QPainter& painter) const;
+
     QString title_;
     QString mean_text_;
     double mean_;
     std::array<double, highest_share + 1> shares_{}; // percent of the battles
-    double highest_ = 0;
+    double step_ = 1; // percent of the battles from one line of the left axis to the next
+    int steps_ = 0;
 };
 
 /// A part of the bar: one way in which the battles ended.

@@ -27,6 +27,17 @@ void show_text(QLineEdit& box, std::string const& text)
     if (!box.hasFocus()) box.setCursorPosition(0); // a long text shows its beginning
 }
 
+void bind_text(TextBox& field, QLineEdit& box)
+{
+    box.setMaxLength(std::numeric_limits<int>::max());
+    // Assistive technology sets a text without a key; what the form shows comes back equal.
+    QObject::connect(&box, &QLineEdit::textChanged, &box, [&](QString const& now) {
+        if (now != to_qt(field.text())) field.set_text(now.toStdString());
+    });
+    field.show = [&] { show_text(box, field.text()); };
+    field.show();
+}
+
 } // namespace
 
 void name_after(Control const& field, QWidget& widget)
@@ -46,21 +57,14 @@ void bind(TextLabel& field, QLabel& label)
 void bind(TextBox& field, QLineEdit& box)
 {
     name_after(field, box);
-    box.setMaxLength(std::numeric_limits<int>::max());
     box.setReadOnly(field.read_only);
-    // Assistive technology sets a text without a key; what the form shows comes back equal.
-    QObject::connect(&box, &QLineEdit::textChanged, &box, [&](QString const& now) {
-        if (now != to_qt(field.text())) field.set_text(now.toStdString());
-    });
-    field.show = [&] { show_text(box, field.text()); };
-    field.show();
+    bind_text(field, box);
 }
 
 void bind(ComboBox& field, ValueBox& box)
 {
     name_after(field, box);
-    field.show = [&] { show_text(*box.lineEdit(), field.text()); };
-    field.show();
+    bind_text(field, *box.lineEdit());
 }
 
 void bind(CheckBox& field, QCheckBox& box)

@@ -5,7 +5,6 @@
 #include "ui/qt/screen_area.h"
 #include "ui/qt/widget_maker.h"
 
-class QGridLayout;
 class QLayout;
 
 namespace warhost {
@@ -18,6 +17,7 @@ public:
 private:
     QLayout* totals();
     QWidget* battle_roll();
+    QLayout* winner_line();
     QWidget* casualties();
     QLayout* loser_line();
     QLayout* victor_roll_line();

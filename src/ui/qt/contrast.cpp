@@ -15,13 +15,13 @@ double luminance(QColor const& colour)
     return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
 }
 
+} // namespace
+
 QColor mixture(QColor const& one, QColor const& other, int percent_of_other)
 {
     auto const mix = [&](int a, int b) { return a + (b - a) * percent_of_other / 100; };
     return {mix(one.red(), other.red()), mix(one.green(), other.green()), mix(one.blue(), other.blue())};
 }
-
-} // namespace
 
 double contrast_ratio(QColor const& one, QColor const& other)
 {

@@ -1,4 +1,4 @@
-// Colours that must stay readable on a background that the user's theme chose.
+// Colours between those of the user's theme, and colours that must stay readable on its background.
 #pragma once
 
 #include <QColor>
@@ -6,6 +6,8 @@
 namespace warhost {
 
 inline constexpr double least_contrast = 4.5;
+
+QColor mixture(QColor const& one, QColor const& other, int percent_of_other);
 
 /// From 1 (equal) to 21 (black on white), by the relative luminance of the two.
 double contrast_ratio(QColor const& one, QColor const& other);

@@ -3,8 +3,6 @@
 #include "ui/qt/contrast.h"
 #include "ui/qt/help_contents.h"
 
-#include <utility>
-
 #include <QDir>
 #include <QEvent>
 #include <QFileInfo>
@@ -15,6 +13,7 @@
 #include <QWheelEvent>
 
 #include <algorithm>
+#include <utility>
 
 namespace warhost {
 

@@ -2,9 +2,9 @@
 
 #include "ui/qt/find_bar.h"
 #include "ui/qt/help_page.h"
+#include "ui/qt/scale.h"
 
 #include <QAction>
-#include <QFontInfo>
 #include <QMenuBar>
 #include <QScreen>
 #include <QSplitter>
@@ -15,6 +15,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace warhost {
 
@@ -23,8 +24,16 @@ namespace {
 // At the base font; a larger font makes the window larger, as far as the screen goes.
 constexpr QSize base_size{960, 680};
 constexpr int base_tree_width = 260;
-constexpr double base_font_pixels = 11;
 constexpr int row_padding = 7; // above and below a title together
+
+void add_to_bar(QToolBar& bar, QAction* action, char const* spoken, Qt::ArrowType arrow = Qt::NoArrow)
+{
+    bar.addAction(action);
+    auto* const button = qobject_cast<QToolButton*>(bar.widgetForAction(action));
+    button->setAccessibleName(spoken);
+    button->setFocusPolicy(Qt::TabFocus);
+    if (arrow != Qt::NoArrow) button->setArrowType(arrow);
+}
 
 } // namespace
 
@@ -38,7 +47,20 @@ HelpViewer::HelpViewer(QString const& folder, QWidget* parent)
     setObjectName("helpViewer");
     setWindowTitle("Warhost Help");
     setAttribute(Qt::WA_QuitOnClose, false);
+    arrange();
+    make_actions();
 
+    auto const show_item = [this](QTreeWidgetItem* item) {
+        auto const found = std::find(items_.begin(), items_.end(), item);
+        if (found != items_.end()) page_->show_entry(entries_[static_cast<std::size_t>(found - items_.begin())]);
+    };
+    connect(tree_, &QTreeWidget::itemClicked, this, show_item);
+    connect(tree_, &QTreeWidget::itemActivated, this, show_item);
+    connect(page_, &QTextBrowser::sourceChanged, this, &HelpViewer::follow_page);
+}
+
+void HelpViewer::arrange()
+{
     tree_->setObjectName("helpTree");
     tree_->setAccessibleName("Contents of the manual");
     tree_->setHeaderHidden(true);
@@ -59,21 +81,11 @@ HelpViewer::HelpViewer(QString const& folder, QWidget* parent)
     splitter->setChildrenCollapsible(false);
     setCentralWidget(splitter);
 
-    double const scale = std::max(1.0, QFontInfo{font()}.pixelSize() / base_font_pixels);
+    double const scale = growth(font());
     QSize const room = screen()->availableSize();
     resize((QSizeF{base_size} * scale).toSize().boundedTo(room));
     int const tree_width = static_cast<int>(base_tree_width * scale);
     splitter->setSizes({tree_width, std::max(1, width() - tree_width)});
-
-    make_actions();
-
-    auto const show_item = [this](QTreeWidgetItem* item) {
-        auto const found = std::find(items_.begin(), items_.end(), item);
-        if (found != items_.end()) page_->show_entry(entries_[static_cast<std::size_t>(found - items_.begin())]);
-    };
-    connect(tree_, &QTreeWidget::itemClicked, this, show_item);
-    connect(tree_, &QTreeWidget::itemActivated, this, show_item);
-    connect(page_, &QTextBrowser::sourceChanged, this, &HelpViewer::follow_page);
 }
 
 void HelpViewer::open(int topic)
@@ -112,62 +124,67 @@ void HelpViewer::make_actions()
     bar->toggleViewAction()->setVisible(false);
     setContextMenuPolicy(Qt::NoContextMenu);
 
-    auto* const page_menu = menuBar()->addMenu("&Page");
-    auto* const find_menu = menuBar()->addMenu("F&ind");
-    auto* const view_menu = menuBar()->addMenu("&View");
+    make_page_actions(*bar);
+    bar->addSeparator();
+    make_find_actions(*bar);
+    bar->addSeparator();
+    make_view_actions(*bar);
+}
 
-    auto const action = [this](QMenu* menu, char const* name, char const* caption, QList<QKeySequence> const& keys,
-                               auto act) {
-        auto* const made = menu->addAction(caption);
-        made->setObjectName(name);
-        made->setShortcuts(keys);
-        connect(made, &QAction::triggered, this, act);
-        return made;
-    };
-    auto const on_bar = [bar](QAction* shown, char const* spoken, Qt::ArrowType arrow = Qt::NoArrow) {
-        bar->addAction(shown);
-        auto* const button = qobject_cast<QToolButton*>(bar->widgetForAction(shown));
-        button->setAccessibleName(spoken);
-        button->setFocusPolicy(Qt::TabFocus);
-        if (arrow != Qt::NoArrow) button->setArrowType(arrow);
-    };
+QAction* HelpViewer::add_action(QMenu& menu, char const* name, char const* caption, QList<QKeySequence> const& keys,
+                                std::function<void()> act)
+{
+    QAction* const made = menu.addAction(caption);
+    made->setObjectName(name);
+    made->setShortcuts(keys);
+    connect(made, &QAction::triggered, this, std::move(act));
+    return made;
+}
 
-    auto* const back = action(page_menu, "helpBack", "&Back", {QKeySequence{"Alt+Left"}, QKeySequence{Qt::Key_Back}},
-                              [this] { page_->backward(); });
+void HelpViewer::make_page_actions(QToolBar& bar)
+{
+    QMenu& menu = *menuBar()->addMenu("&Page");
+    auto* const back = add_action(menu, "helpBack", "&Back", {QKeySequence{"Alt+Left"}, QKeySequence{Qt::Key_Back}},
+                                  [this] { page_->backward(); });
     auto* const forward =
-        action(page_menu, "helpForward", "&Forward", {QKeySequence{"Alt+Right"}, QKeySequence{Qt::Key_Forward}},
-               [this] { page_->forward(); });
+        add_action(menu, "helpForward", "&Forward", {QKeySequence{"Alt+Right"}, QKeySequence{Qt::Key_Forward}},
+                   [this] { page_->forward(); });
     auto* const contents =
-        action(page_menu, "helpHome", "&Contents", {QKeySequence{"Alt+Home"}}, [this] { show_topic(0); });
-    page_menu->addSeparator();
-    action(page_menu, "helpClose", "C&lose", {QKeySequence{"Ctrl+W"}}, [this] { close(); });
+        add_action(menu, "helpHome", "&Contents", {QKeySequence{"Alt+Home"}}, [this] { show_topic(0); });
+    menu.addSeparator();
+    add_action(menu, "helpClose", "C&lose", {QKeySequence{"Ctrl+W"}}, [this] { close(); });
 
-    auto* const find =
-        action(find_menu, "helpFind", "&Find...", {QKeySequence{"Ctrl+F"}}, [this] { find_bar_->open(); });
-    action(find_menu, "helpFindNext", "Find &Next", {QKeySequence{"F3"}, QKeySequence{"Ctrl+G"}},
-           [this] { find_bar_->find_next(); });
-    action(find_menu, "helpFindPrevious", "Find &Previous", {QKeySequence{"Shift+F3"}, QKeySequence{"Ctrl+Shift+G"}},
-           [this] { find_bar_->find_previous(); });
-
-    auto* const larger = action(view_menu, "helpLarger", "&Larger Text",
-                                {QKeySequence{"Ctrl++"}, QKeySequence{"Ctrl+="}}, [this] { page_->zoom(1); });
-    auto* const smaller =
-        action(view_menu, "helpSmaller", "&Smaller Text", {QKeySequence{"Ctrl+-"}}, [this] { page_->zoom(-1); });
-    action(view_menu, "helpNormal", "&Normal Size", {QKeySequence{"Ctrl+0"}}, [this] { page_->zoom_to_normal(); });
-
-    on_bar(back, "Back", Qt::LeftArrow);
-    on_bar(forward, "Forward", Qt::RightArrow);
-    on_bar(contents, "Contents");
-    bar->addSeparator();
-    on_bar(find, "Find in the page");
-    bar->addSeparator();
-    on_bar(smaller, "Smaller text");
-    on_bar(larger, "Larger text");
-
+    add_to_bar(bar, back, "Back", Qt::LeftArrow);
+    add_to_bar(bar, forward, "Forward", Qt::RightArrow);
+    add_to_bar(bar, contents, "Contents");
     back->setEnabled(false);
     forward->setEnabled(false);
     connect(page_, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
     connect(page_, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
+}
+
+void HelpViewer::make_find_actions(QToolBar& bar)
+{
+    QMenu& menu = *menuBar()->addMenu("F&ind");
+    auto* const find =
+        add_action(menu, "helpFind", "&Find...", {QKeySequence{"Ctrl+F"}}, [this] { find_bar_->open(); });
+    add_action(menu, "helpFindNext", "Find &Next", {QKeySequence{"F3"}, QKeySequence{"Ctrl+G"}},
+               [this] { find_bar_->find_next(); });
+    add_action(menu, "helpFindPrevious", "Find &Previous", {QKeySequence{"Shift+F3"}, QKeySequence{"Ctrl+Shift+G"}},
+               [this] { find_bar_->find_previous(); });
+    add_to_bar(bar, find, "Find in the page");
+}
+
+void HelpViewer::make_view_actions(QToolBar& bar)
+{
+    QMenu& menu = *menuBar()->addMenu("&View");
+    auto* const larger = add_action(menu, "helpLarger", "&Larger Text",
+                                    {QKeySequence{"Ctrl++"}, QKeySequence{"Ctrl+="}}, [this] { page_->zoom(1); });
+    auto* const smaller =
+        add_action(menu, "helpSmaller", "&Smaller Text", {QKeySequence{"Ctrl+-"}}, [this] { page_->zoom(-1); });
+    add_action(menu, "helpNormal", "&Normal Size", {QKeySequence{"Ctrl+0"}}, [this] { page_->zoom_to_normal(); });
+    add_to_bar(bar, smaller, "Smaller text");
+    add_to_bar(bar, larger, "Larger text");
 }
 
 void HelpViewer::fill_tree()

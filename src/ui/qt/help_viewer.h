@@ -3,8 +3,15 @@
 
 #include "ui/qt/help_contents.h"
 
+#include <QKeySequence>
+#include <QList>
 #include <QMainWindow>
 
+#include <functional>
+#include <vector>
+
+class QMenu;
+class QToolBar;
 class QTreeWidget;
 class QTreeWidgetItem;
 
@@ -27,7 +34,13 @@ public:
 
 private:
     void show_topic(int topic);
+    void arrange();
     void make_actions();
+    void make_page_actions(QToolBar& bar);
+    void make_find_actions(QToolBar& bar);
+    void make_view_actions(QToolBar& bar);
+    QAction* add_action(QMenu& menu, char const* name, char const* caption, QList<QKeySequence> const& keys,
+                        std::function<void()> act);
     void fill_tree();
     void follow_page(QUrl const& address);
 

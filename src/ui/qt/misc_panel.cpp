@@ -1,6 +1,7 @@
 #include "ui/qt/misc_panel.h"
 
 #include "ui/qt/binding.h"
+#include "ui/qt/contrast.h"
 #include "ui/qt/text.h"
 #include "ui/qt/value_box.h"
 
@@ -21,10 +22,12 @@ namespace {
 constexpr QColor light_stripe{240, 240, 240};
 constexpr int least_difference = 8; // of the lightness of two neighbouring rows, of 255
 
-QColor mixture(QColor const& one, QColor const& other, double share_of_other)
+/// Neighbouring rows meet: each edge is rounded by itself.
+QRect geometry_of(Place const& place, Scale const& scale)
 {
-    auto const mix = [&](int a, int b) { return a + static_cast<int>((b - a) * share_of_other); };
-    return {mix(one.red(), other.red()), mix(one.green(), other.green()), mix(one.blue(), other.blue())};
+    QPoint const top_left{scale.from_twips(place.Left), scale.from_twips(place.Top)};
+    QPoint const behind{scale.from_twips(place.Left + place.Width), scale.from_twips(place.Top + place.Height)};
+    return {top_left, behind - QPoint{1, 1}};
 }
 
 } // namespace
@@ -33,9 +36,9 @@ RowColours row_colours(QPalette const& palette)
 {
     QColor const button = palette.color(QPalette::Button);
     QColor const text = palette.color(QPalette::ButtonText);
-    if (button.lightness() <= text.lightness()) return {button, mixture(button, text, 0.12)};
+    if (button.lightness() <= text.lightness()) return {button, mixture(button, text, 12)};
     bool const differs = std::abs(button.lightness() - light_stripe.lightness()) >= least_difference;
-    return {differs ? button : mixture(button, text, 0.07), light_stripe};
+    return {differs ? button : mixture(button, text, 7), light_stripe};
 }
 
 MiscPanel::MiscPanel(Main& form, Scale const& scale, std::function<void(int)> show_help, QWidget* parent)
@@ -66,12 +69,6 @@ void MiscPanel::make_row(int index)
 {
     CheckBox& box_field = form_.chkMisc(index);
     ComboBox& value_field = form_.cmbMisc(index);
-    auto const geometry = [this](Place const& place) {
-        int const left = scale_.from_twips(place.Left);
-        int const top = scale_.from_twips(place.Top);
-        return QRect{QPoint{left, top}, QPoint{scale_.from_twips(place.Left + place.Width) - 1,
-                                               scale_.from_twips(place.Top + place.Height) - 1}};
-    };
     QString const caption = to_qt(box_field.caption());
     Row const row{index, new QCheckBox{this}, new ValueBox{value_field}};
 
@@ -79,7 +76,7 @@ void MiscPanel::make_row(int index)
     row.box->setAccessibleName(caption);
     row.box->setBackgroundRole(QPalette::Window);
     row.box->setAutoFillBackground(true);
-    row.box->setGeometry(geometry(box_field.place));
+    row.box->setGeometry(geometry_of(box_field.place, scale_));
     box_field.show = [this, row, &box_field] {
         row.box->setChecked(box_field.state() == 1);
         if (row.box->font().bold() == box_field.bold()) return;
@@ -93,7 +90,7 @@ void MiscPanel::make_row(int index)
     bind(value_field, *row.value);
     row.value->setAccessibleName(caption + ", value");
     row.value->lineEdit()->setAlignment(Qt::AlignRight);
-    row.value->setGeometry(geometry(value_field.place));
+    row.value->setGeometry(geometry_of(value_field.place, scale_));
 
     colour(row);
     box_field.show();
@@ -123,7 +120,7 @@ void MiscPanel::fit_caption(Row const& row) const
     int const room = row.value->x() - row.box->x() - text_left - scale_.from_base(4);
     QString const caption = to_qt(form_.chkMisc(row.index).caption());
     QString const shown = row.box->fontMetrics().elidedText(caption, Qt::ElideRight, room);
-    row.box->setText(QString{shown}.replace('&', "&&"));
+    row.box->setText(to_caption(shown));
     row.box->setToolTip(shown == caption ? QString{} : to_tooltip(caption));
 }
 

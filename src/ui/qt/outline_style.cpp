@@ -1,5 +1,7 @@
 #include "ui/qt/outline_style.h"
 
+#include "ui/qt/contrast.h"
+
 #include <QPainter>
 #include <QStyleOption>
 
@@ -15,12 +17,10 @@ void outline(QStyleOption const& option, QPainter& painter, Shape shape)
     QColor const text = option.palette.color(QPalette::WindowText);
     if (window.lightness() >= text.lightness()) return;
 
-    auto const between = [](int from, int to) { return (from + to) / 2; };
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QColor{between(window.red(), text.red()), between(window.green(), text.green()),
-                          between(window.blue(), text.blue())});
+    painter.setPen(mixture(window, text, 50));
     QRectF const frame = QRectF{option.rect}.adjusted(0.5, 0.5, -0.5, -0.5);
     if (shape == Shape::circle) painter.drawEllipse(frame);
     else painter.drawRoundedRect(frame, 2, 2);

@@ -1,6 +1,7 @@
 #include "ui/qt/report_box.h"
 
 #include "ui/qt/battle_charts.h"
+#include "ui/qt/text.h"
 #include "ui/simulation_report.h"
 
 #include <QDialogButtonBox>
@@ -15,7 +16,7 @@ namespace {
 
 QLabel* selectable_text(std::string const& text, char const* name)
 {
-    auto* const label = new QLabel{QString::fromStdString(text).remove('\r')};
+    auto* const label = new QLabel{to_qt(text).remove('\r')};
     label->setTextFormat(Qt::PlainText);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     label->setAccessibleName(name);
@@ -27,12 +28,12 @@ QLabel* selectable_text(std::string const& text, char const* name)
 ReportBox::ReportBox(MessageBox const& report, Tally const& tally, NumberFormat const& format, QWidget* parent)
     : QDialog(parent)
 {
-    setWindowTitle(QString::fromStdString(report.title));
+    setWindowTitle(to_qt(report.title));
     if (parent != nullptr) setFont(parent->font()); // the window may have fitted it to the screen
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
 
     auto const battles = static_cast<double>(tally.battles());
-    auto const percent = [&](double value) { return QString::fromStdString(one_decimal(value, format)); };
+    auto const percent = [&](double value) { return to_qt(one_decimal(value, format)); };
     auto const part = [&](int winner, QString const& what, Qt::BrushStyle pattern) {
         double const share = 100 * static_cast<double>(tally.won_by(winner)) / battles;
         return OutcomePart{what + " " + percent(share) + "%", share, pattern};

@@ -1,6 +1,7 @@
 #include "ui/qt/rich_text_view.h"
 
 #include "ui/qt/contrast.h"
+#include "ui/qt/text.h"
 #include "ui/rich_text_reader.h"
 
 #include <QFontDatabase>
@@ -29,7 +30,7 @@ QTextCharFormat format_of(RichTextRun const& run, QTextEdit const& box)
         int const pixels = static_cast<int>(std::lround(QFontInfo{box.font()}.pixelSize() * scale));
         format.setProperty(QTextFormat::FontPixelSize, std::max(1, pixels));
     }
-    if (QString::fromStdString(run.font).startsWith(QLatin1String{"Courier"}, Qt::CaseInsensitive)) {
+    if (to_qt(run.font).startsWith(QLatin1String{"Courier"}, Qt::CaseInsensitive)) {
         format.setFontFamilies(QFontDatabase::systemFont(QFontDatabase::FixedFont).families());
         format.setFontFixedPitch(true);
     }
@@ -57,7 +58,7 @@ void show_rich_text(QTextEdit& box, std::string const& document)
     for (auto const& paragraph : read_rich_text(document)) {
         if (!first) cursor.insertBlock(QTextBlockFormat{}, QTextCharFormat{});
         first = false;
-        for (auto const& run : paragraph) cursor.insertText(QString::fromStdString(run.text), format_of(run, box));
+        for (auto const& run : paragraph) cursor.insertText(to_qt(run.text), format_of(run, box));
     }
     cursor.endEditBlock();
 

@@ -1,5 +1,6 @@
 #include "ui/qt/scale.h"
 
+#include <QFontInfo>
 #include <QGuiApplication>
 #include <QScreen>
 
@@ -19,6 +20,8 @@ double pixel_height(QFont const& font)
 {
     return font.pixelSize() > 0 ? font.pixelSize() : font.pointSizeF() * dots_per_inch() / points_per_inch;
 }
+
+double growth(QFont const& font) { return std::max(1.0, QFontInfo{font}.pixelSize() / Scale::base_font_pixels); }
 
 QFont fitting_font(QFont font, double width, double height, QSize room)
 {

@@ -29,6 +29,9 @@ private:
 /// The font's size in pixels on the main screen; a fraction where the size is given in points.
 double pixel_height(QFont const& font);
 
+/// How many times larger than at the base size a window of its own is drawn in its font; at least 1.
+double growth(QFont const& font);
+
 /// The user's font at the size to use: not below the base, and otherwise not larger than what lets a window of the
 /// given size in twips fit into the room.
 QFont fitting_font(QFont font, double width, double height, QSize room);

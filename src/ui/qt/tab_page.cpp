@@ -33,8 +33,8 @@ void TabPage::paintEvent(QPaintEvent* event)
 {
     draw_page(rect());
     QTabBar::paintEvent(event);
-    draw_page(
-        rect().adjusted(0, tab_height_, 0, 0)); // styles let the chosen tab reach down, and count on a strip's end
+    // Styles let the chosen tab reach down, and count on a strip's end.
+    draw_page(rect().adjusted(0, tab_height_, 0, 0));
 }
 
 void TabPage::mousePressEvent(QMouseEvent* event)

@@ -14,7 +14,8 @@ inline QString to_qt(std::string_view text)
 }
 
 /// A caption in which an ampersand is an ampersand, for the widgets that would take it for an access key.
-inline QString to_caption(std::string_view text) { return to_qt(text).replace('&', "&&"); }
+inline QString to_caption(QString text) { return text.replace('&', "&&"); }
+inline QString to_caption(std::string_view text) { return to_caption(to_qt(text)); }
 
 /// A tool tip that is never taken for markup.
 inline QString to_tooltip(QString const& text)

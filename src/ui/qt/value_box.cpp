@@ -13,7 +13,6 @@
 #include <QWheelEvent>
 
 #include <algorithm>
-#include <limits>
 
 namespace warhost {
 
@@ -82,10 +81,6 @@ ValueBox::ValueBox(ComboBox& field) : field_(field)
     // Leaving the box or pressing Enter chooses nothing, even when the typed text is in the list.
     disconnect(lineEdit(), &QLineEdit::returnPressed, this, nullptr);
     disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
-    lineEdit()->setMaxLength(std::numeric_limits<int>::max());
-    connect(lineEdit(), &QLineEdit::textChanged, this, [this](QString const& now) {
-        if (now != to_qt(field_.text())) field_.set_text(now.toStdString());
-    });
     connect(this, &QComboBox::activated, this, [this](int item) { field_.choose(static_cast<std::size_t>(item)); });
 }
 

@@ -6,6 +6,7 @@
 #include "ui/qt/value_box.h"
 
 #include <QCheckBox>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -104,9 +105,23 @@ CaptionFrame* WidgetMaker::frame(Frame& field) const
     return made;
 }
 
+QHBoxLayout* WidgetMaker::line(int spacing) const
+{
+    auto* const made = new QHBoxLayout;
+    made->setSpacing(pixels(spacing));
+    return made;
+}
+
 void WidgetMaker::set_tab_order() const
 {
     for (std::size_t k = 1; k < order_.size(); ++k) QWidget::setTabOrder(order_[k - 1], order_[k]);
+}
+
+void add_labelled(QHBoxLayout& line, QLabel* label, QWidget* box)
+{
+    label->setBuddy(box);
+    line.addWidget(label);
+    line.addWidget(box);
 }
 
 } // namespace warhost

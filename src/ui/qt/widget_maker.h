@@ -9,6 +9,7 @@
 #include <vector>
 
 class QCheckBox;
+class QHBoxLayout;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -49,6 +50,8 @@ public:
     QTextEdit* description(RichTextBox& field, QString const& spoken);
     CaptionFrame* frame(Frame& field) const;
 
+    QHBoxLayout* line(int spacing) const;
+
     /// Lets the Tab key follow the order of making.
     void set_tab_order() const;
 
@@ -60,5 +63,8 @@ private:
     int row_height_;
     std::vector<QWidget*> order_;
 };
+
+/// Puts a box at the end of a line, beside the label that names it.
+void add_labelled(QHBoxLayout& line, QLabel* label, QWidget* box);
 
 } // namespace warhost

@@ -101,8 +101,8 @@ void Window::make_menus()
 void Window::fit_to_screen()
 {
     constexpr QSize window_frame{8, 40}; // about what the desktop draws around a window, before it has drawn any
-    QSize const screen = this->screen()->availableSize() - window_frame;
-    QSize const room = screen - QSize{0, menuBar()->sizeHint().height()};
+    QSize const largest = screen()->availableSize() - window_frame;
+    QSize const room = largest - QSize{0, menuBar()->sizeHint().height()};
     QFont const font = fitting_font(QApplication::font(), created_width, created_height, room);
     scale_ = Scale{pixel_height(font)};
     if (pixel_height(font) != pixel_height(QApplication::font())) setFont(font);
@@ -116,7 +116,7 @@ void Window::fit_to_screen()
         if (size.width() + extra_.width() > room.width()) extra_.setHeight(bar);
     }
     desktop_.set_client_size(size);
-    resize((size + extra_ + QSize{0, menuBar()->sizeHint().height()}).boundedTo(screen));
+    resize((size + extra_ + QSize{0, menuBar()->sizeHint().height()}).boundedTo(largest));
 }
 
 void Window::make_tab_strip()
@@ -156,14 +156,20 @@ void Window::make_combat_screen()
     colour_read_only_boxes();
 }
 
+/// Where the screens scroll, a frame ends at a margin, in pixels of the base size, before the client area does.
+QRect Window::place_of(Frame const& frame, int margin) const
+{
+    auto const& box = frame.box();
+    QPoint const place{scale_.from_twips(box.Left), scale_.from_twips(box.Top)};
+    QSize const size = scale_.from_twips(box.Width, box.Height) + extra_;
+    int const free = scale_.from_base(margin);
+    QSize const room{client_->width() - place.x() - free, client_->height() - place.y() - free};
+    return {place, scrolls_ ? size.boundedTo(room) : size};
+}
+
 void Window::place_tab_strip()
 {
-    auto const& box = form_.TabStrip.box();
-    QSize const size = scale_.from_twips(box.Width, box.Height) + extra_;
-    QPoint const place{scale_.from_twips(box.Left), scale_.from_twips(box.Top)};
-    int const margin = scale_.from_base(4);
-    QSize const room{client_->width() - place.x() - margin, client_->height() - place.y() - margin};
-    tabs_->setGeometry(QRect{place, scrolls_ ? size.boundedTo(room) : size});
+    tabs_->setGeometry(place_of(form_.TabStrip, 4));
     QSignalBlocker const only_shown{tabs_};
     tabs_->setCurrentIndex(form_.TabStrip.position() - 1);
     tabs_->update();
@@ -172,11 +178,7 @@ void Window::place_tab_strip()
 void Window::place_screen(Frame const& frame, ScreenArea& screen)
 {
     auto const& box = frame.box();
-    QSize const size = scale_.from_twips(box.Width, box.Height);
-    QPoint const place{scale_.from_twips(box.Left), scale_.from_twips(box.Top)};
-    int const margin = scale_.from_base(8);
-    QSize const room{client_->width() - place.x() - margin, client_->height() - place.y() - margin};
-    screen.place(QRect{place, scrolls_ ? (size + extra_).boundedTo(room) : size}, size, scrolls_);
+    screen.place(place_of(frame, 8), scale_.from_twips(box.Width, box.Height), scrolls_);
     screen.setVisible(frame.visible());
 }
 
