@@ -2,9 +2,6 @@
 #include "ui/agreement.h"
 #include "ui/test_desktop.h"
 
-#include <gtest/gtest.h>
-
-#include <iterator>
 #ifdef __GLIBC__
 #include <malloc.h>
 #endif

@@ -1,3 +1,5 @@
+#include "ui/qt/outline_style.h"
+
 #include <QApplication>
 #include <QFile>
 #include <QTemporaryDir>
@@ -18,7 +20,7 @@ int main(int argc, char* argv[])
     screens.close();
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screens.fileName().toUtf8());
     QApplication const application{argc, argv};
-    QApplication::setStyle(qEnvironmentVariable("WARHOST_TEST_STYLE", "fusion"));
+    QApplication::setStyle(new warhost::OutlineStyle{qEnvironmentVariable("WARHOST_TEST_STYLE", "fusion")});
     QApplication::setQuitOnLastWindowClosed(false);
     return RUN_ALL_TESTS();
 }
