@@ -184,7 +184,10 @@ NumberFormat QtDesktop::number_format()
     return {locale.decimalPoint().toStdString(), locale.groupSeparator().toStdString()};
 }
 
-std::string QtDesktop::program_directory() { return QCoreApplication::applicationDirPath().toStdString(); }
+std::string QtDesktop::program_directory()
+{
+    return QDir::toNativeSeparators(QCoreApplication::applicationDirPath()).toStdString();
+}
 
 void QtDesktop::show_help(int topic)
 {
