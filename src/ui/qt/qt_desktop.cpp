@@ -133,7 +133,7 @@ std::string QtDesktop::input_box(InputBox const& box)
     return input.exec() == QDialog::Accepted ? input.textValue().toStdString() : std::string{};
 }
 
-/// Where the user last was; at first the sample armies. What is saved goes where it may.
+/// Where the user last was; at first the sample armies, beside which nothing is saved, nor where nothing can be.
 QString QtDesktop::folder_for(FileDialogKind kind)
 {
     bool const saves = kind == FileDialogKind::save;
@@ -142,7 +142,8 @@ QString QtDesktop::folder_for(FileDialogKind kind)
     wait_for([&] {
         for (QString const& folder : {saves ? QString{} : samples, last_folder_}) {
             QFileInfo const info{folder};
-            if (!folder.isEmpty() && info.isDir() && (!saves || info.isWritable())) chosen = folder;
+            if (!folder.isEmpty() && info.isDir() && (!saves || (folder != samples && info.isWritable())))
+                chosen = folder;
         }
     });
     return chosen.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) : chosen;
