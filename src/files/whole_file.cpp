@@ -26,7 +26,7 @@ bool is_temporary_name(fs::path const& name)
 fs::path path_of(std::string const& utf8)
 {
     // The system would take a null character for the end.
-    if (utf8.find('\0') != utf8.npos) throw failure_of(Fault::bad_name, utf8);
+    if (utf8.find('\0') != std::string::npos) throw failure_of(Fault::bad_name, utf8);
     try {
         return {std::u8string{utf8.begin(), utf8.end()}};
     } catch (std::system_error const&) { // where paths are no bytes
