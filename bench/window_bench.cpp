@@ -14,6 +14,7 @@
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <ctime>
 #include <fstream>
@@ -78,28 +79,24 @@ constexpr char const* window_with_menus = "--menus"; // whose captions are the f
     ::_exit(0);
 }
 
-/// Processor time of a child in milliseconds; the best of `rounds`.
-double child_time(std::string const& what, int rounds)
+/// Processor time of a child, in milliseconds.
+double child_time(std::string const& what)
 {
-    double best = 1e9;
-    for (int round = 0; round < rounds; ++round) {
-        pid_t const child = ::fork();
-        if (child == 0) {
-            ::execl("/proc/self/exe", "window_bench", "--show", what.c_str(), nullptr);
-            ::_exit(1);
-        }
-        int status = 0;
-        rusage usage{};
-        if (::wait4(child, &status, 0, &usage) != child || status != 0) {
-            std::cerr << "No window was shown by --show " << what << '\n';
-            std::exit(EXIT_FAILURE);
-        }
-        auto const milliseconds = [](timeval time) {
-            return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_usec) / 1e3;
-        };
-        best = std::min(best, milliseconds(usage.ru_utime) + milliseconds(usage.ru_stime));
+    pid_t const child = ::fork();
+    if (child == 0) {
+        ::execl("/proc/self/exe", "window_bench", "--show", what.c_str(), nullptr);
+        ::_exit(1);
     }
-    return best;
+    int status = 0;
+    rusage usage{};
+    if (::wait4(child, &status, 0, &usage) != child || status != 0) {
+        std::cerr << "No window was shown by --show " << what << '\n';
+        std::exit(EXIT_FAILURE);
+    }
+    auto const milliseconds = [](timeval time) {
+        return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_usec) / 1e3;
+    };
+    return milliseconds(usage.ru_utime) + milliseconds(usage.ru_stime);
 }
 
 std::string program_folder() { return std::string{BENCH_PROGRAM_FOLDER}; }
@@ -114,19 +111,18 @@ std::string long_list_folder()
     return folder;
 }
 
+/// The best of several rounds, in which each takes its turn.
 void start(benchmark::State& state)
 {
-    constexpr int rounds = 10;
-    double window = 0;
-    double empty = 0;
-    double menus = 0;
-    double long_list = 0;
+    constexpr int rounds = 20;
     std::string const folder = long_list_folder();
+    std::array<std::string, 4> const shown{empty_window, window_with_menus, program_folder(), folder};
+    std::array<double, 4> best{1e9, 1e9, 1e9, 1e9};
+    auto const& [empty, menus, window, long_list] = best;
     for (auto _ : state) {
-        empty = child_time(empty_window, rounds);
-        menus = child_time(window_with_menus, rounds);
-        window = child_time(program_folder(), rounds);
-        long_list = child_time(folder, rounds);
+        for (int round = 0; round < rounds; ++round) {
+            for (std::size_t k = 0; k < shown.size(); ++k) best.at(k) = std::min(best.at(k), child_time(shown.at(k)));
+        }
         state.SetIterationTime(window * 1e-3);
     }
     ::unlink((folder + "/modif.txt").c_str());
