@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Installs the package that scripts/package.sh made into a clean Debian, uses the program there as an ordinary user,
-# removes it, and fails if anything is left. Needs root. The clean Debian stays in build/debian for the next time.
+# removes it, and fails if anything is left. Needs root. The clean Debian stays in build/debian for the next time; where
+# none can be made, the exit status is 77.
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
 source scripts/install.sh
@@ -25,13 +26,21 @@ listing()
 }
 
 # The essential packages and those that ours depends on, from where this machine takes its own.
-if [ "$(head -n 1 "$debian.list" 2>/dev/null)" != "$depends" ]; then
-    rm -rf --one-file-system "$debian" "$debian.list"
-    apt-get -qq update
-    # shellcheck disable=SC2016,SC1091 # apt's own variables; the system's own file
-    apt-get indextargets --format 'deb $(REPO_URI) $(RELEASE) $(COMPONENT)' 'Created-By: Packages' 'Origin: Debian' |
+# shellcheck disable=SC2016,SC1091 # apt's own variables; the system's own file
+make_debian()
+{
+    apt-get -qq update &&
+        apt-get indextargets --format 'deb $(REPO_URI) $(RELEASE) $(COMPONENT)' 'Created-By: Packages' 'Origin: Debian' |
         mmdebstrap --quiet --variant=essential --include="$(sed 's/ ([^)]*)//g; s/ |[^,]*//g; s/ //g' <<<"$depends")" \
             "$(. /etc/os-release && echo "$VERSION_CODENAME")" "$debian" -
+}
+
+if [ "$(head -n 1 "$debian.list" 2>/dev/null)" != "$depends" ]; then
+    rm -rf --one-file-system "$debian" "$debian.list"
+    if ! make_debian; then
+        echo 'Here no clean Debian can be made to try the package in.' >&2
+        exit 77
+    fi
     listing >"$debian.list"
 fi
 
@@ -44,7 +53,7 @@ export DISPLAY=:$number
 # window TITLE: waits for it to appear and prints its number.
 window()
 {
-    if ! timeout 20 xdotool search --sync --onlyvisible --name "^$1\$"; then
+    if ! timeout 60 xdotool search --sync --onlyvisible --name "^$1\$"; then
         printf 'There is no window "%s".\n' "$1" >&2
         return 1
     fi
