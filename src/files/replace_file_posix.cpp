@@ -84,10 +84,11 @@ public:
     /// The rights to the file to be replaced, as far as the system lets them be given; never more.
     void take_over_rights(std::filesystem::path const& target, struct stat const& old) const
     {
+        constexpr char const* access_list = "system.posix_acl_access"; // what further users and groups may do
+        ::fremovexattr(descriptor_, access_list);                      // the folder may have given it one of its own
         struct stat own = {};
         require(::fstat(descriptor_, &own) == 0);
         constexpr auto unchanged = static_cast<uid_t>(-1);
-        constexpr char const* access_list = "system.posix_acl_access"; // what further users and groups may do
         std::string list(std::size_t{64} * 1024, '\0');
         ssize_t const size = ::getxattr(target.c_str(), access_list, list.data(), list.size());
         bool const same_group = own.st_gid == old.st_gid || ::fchown(descriptor_, unchanged, old.st_gid) == 0;

@@ -27,8 +27,8 @@ void ProgressDialog::show_share(double share, QString const& text)
     bar_.setValue(static_cast<int>(share * bar_steps));
     text_.setText(text);
     show();
-    QCoreApplication::processEvents(); // what the user does meanwhile is lost on this window, and does not wait for its
-                                       // end
+    // What the user does meanwhile is lost on this window, and does not wait for its end.
+    QCoreApplication::processEvents();
 }
 
 } // namespace warhost
