@@ -7,16 +7,15 @@ namespace warhost {
 
 namespace {
 
-void calculate_total(Army& army)
+/// Everything that the total modifier adds up but the experience bonus.
+std::int32_t total_without_level(Army const& army)
 {
     std::int32_t sum = 0;
     for (auto const value : army.OptValue) sum = checked_sum(sum, value);
     for (std::size_t i = 0; i < army.MiscValue.size(); ++i) {
         if (army.MiscCheck[i] == 1) sum = checked_sum(sum, army.MiscValue[i]);
     }
-    sum = checked_sum(sum, army.RatioBonus);
-    army.LevelBonus = level_bonus(army.Level, army.OtherLevel);
-    army.TotalMod = checked_sum(sum, army.LevelBonus);
+    return checked_sum(sum, army.RatioBonus);
 }
 
 } // namespace
@@ -35,15 +34,20 @@ void Armies::CalcTotalNo()
     for (int row = 0; row < unit_rows; ++row) CurArmy.TotalNo = checked_sum(CurArmy.TotalNo, CurArmy.UnitNum[row]);
 }
 
-void Armies::CalcArmyTotal() { calculate_total(CurArmy); }
+void Armies::CalcArmyTotal()
+{
+    std::int32_t const sum = total_without_level(CurArmy);
+    CurArmy.LevelBonus = level_bonus(CurArmy.Level, CurArmy.OtherLevel);
+    CurArmy.TotalMod = checked_sum(sum, CurArmy.LevelBonus);
+}
 
 void Armies::CalcOtherTotal(int selected_tab)
 {
     if (selected_tab != tab_side_a && selected_tab != tab_side_b) return;
     Army& other = selected_tab == tab_side_a ? ArmyB : ArmyA;
-    Army copy = other;
-    calculate_total(copy);
-    other = copy;
+    std::int16_t const bonus = level_bonus(other.Level, other.OtherLevel);
+    other.TotalMod = checked_sum(total_without_level(other), bonus);
+    other.LevelBonus = bonus;
 }
 
 } // namespace warhost

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <string_view>
+#include <utility>
 
 namespace warhost {
 
@@ -16,6 +17,13 @@ constexpr std::string_view side_name(int Index) { return Index == 0 ? "Side A" :
 
 /// The combat screen has the unit rows of both sides in one array, Side A's first.
 constexpr int combat_row(int Index, int row) { return unit_rows * Index + row; }
+
+/// Makes `to` a copy of `from`. Throws std::bad_alloc and then leaves `to` as it was.
+inline void copy_army(Army const& from, Army& to)
+{
+    Army copy = from;
+    to = std::move(copy);
+}
 
 /// The records of both sides and CurArmy, the working copy of the side whose tab is selected.
 /// Every operation that throws leaves the member it was computing as it was.

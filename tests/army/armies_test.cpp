@@ -41,6 +41,11 @@ TEST(Armies, total_every_category_the_ticked_misc_values_and_both_bonuses)
         EXPECT_EQ(armies.ArmyA.TotalMod, tab == 2 ? 4626 : 0) << tab;
         EXPECT_EQ(armies.ArmyB.TotalMod, tab == 1 ? 4626 : 0) << tab;
     }
+    // Only the experience bonus makes the sum too large: the other side keeps both its figures.
+    armies.ArmyB.OptValue[7] = 2147483647 - 4622;
+    armies.ArmyB.LevelBonus = 1;
+    EXPECT_EQ(caught([&] { armies.CalcOtherTotal(1); }).number, number_of(Fault::overflow));
+    EXPECT_EQ(std::tuple(armies.ArmyB.LevelBonus, armies.ArmyB.TotalMod), std::tuple(1, 0));
     army.OptValue[7] = armies.ArmyB.OptValue[7] = 2147483647;
     EXPECT_EQ(caught([&] { armies.CalcArmyTotal(); }).number, number_of(Fault::overflow));
     EXPECT_EQ(caught([&] { armies.CalcOtherTotal(1); }).number, number_of(Fault::overflow));
