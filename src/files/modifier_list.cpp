@@ -3,19 +3,12 @@
 #include "army/value_conversion.h"
 #include "files/code_page.h"
 
-#include <optional>
+#include <string_view>
 #include <utility>
 
 namespace warhost {
 
 namespace {
-
-std::string decoded(std::string_view bytes)
-{
-    constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
-    if (bytes.starts_with(byte_order_mark)) bytes.remove_prefix(byte_order_mark.size());
-    return is_utf8(bytes) ? std::string{bytes} : utf8_of_windows_1252(bytes);
-}
 
 /// Takes the next line off rest; nothing at the end of the file.
 std::optional<std::string_view> next_line(std::string_view& rest)
@@ -30,34 +23,38 @@ std::optional<std::string_view> next_line(std::string_view& rest)
 
 } // namespace
 
-std::vector<ModifierEntry> parse_modifier_list(std::string_view bytes)
+ModifierList::ModifierList(std::string bytes) : bytes_(std::move(bytes))
 {
-    std::vector<ModifierEntry> entries;
-    std::string const text = decoded(bytes);
-    std::string_view rest = text;
-    while (!rest.empty()) {
-        auto const name = next_line(rest);
-        auto const values_line = next_line(rest);
-        if (!values_line) break;
+    constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
+    if (bytes_.starts_with(byte_order_mark)) at_ = byte_order_mark.size();
+    is_utf8_ = is_utf8(std::string_view{bytes_}.substr(at_));
+}
 
-        ModifierEntry entry;
-        entry.name = without_outer(" ", *name);
-        std::string_view values = *values_line;
-        if (auto const bar = values.find('|'); bar != std::string_view::npos) {
-            entry.help_topic = TextToInt(values.substr(0, bar));
-            values.remove_prefix(bar + 1);
-        }
-        entry.low = entry.high = entry.initial = TextToInt(values);
-        std::string_view last_text = *name; // or what follows the comma
-        if (auto const comma = values.find(','); comma != std::string_view::npos) {
-            last_text = values.substr(comma + 1);
-            entry.high = TextToInt(last_text);
-        }
-        if (entry.low > entry.high) std::swap(entry.low, entry.high);
-        entries.push_back(std::move(entry));
-        if (values.empty() || last_text.empty()) break;
+std::optional<ModifierEntry> ModifierList::next()
+{
+    std::string_view rest = std::string_view{bytes_}.substr(at_);
+    auto const name = next_line(rest);
+    auto const values_line = next_line(rest);
+    if (!values_line) return {};
+
+    ModifierEntry entry;
+    std::string_view const trimmed = without_outer(" ", *name);
+    entry.name = is_utf8_ ? std::string{trimmed} : utf8_of_windows_1252(trimmed);
+    std::string_view values = *values_line;
+    if (auto const bar = values.find('|'); bar != std::string_view::npos) {
+        entry.help_topic = TextToInt(values.substr(0, bar));
+        values.remove_prefix(bar + 1);
     }
-    return entries;
+    entry.low = entry.high = entry.initial = TextToInt(values);
+    std::string_view last_text = *name; // or what follows the comma
+    if (auto const comma = values.find(','); comma != std::string_view::npos) {
+        last_text = values.substr(comma + 1);
+        entry.high = TextToInt(last_text);
+    }
+    if (entry.low > entry.high) std::swap(entry.low, entry.high);
+    bool const ends = values.empty() || last_text.empty();
+    at_ = ends ? bytes_.size() : bytes_.size() - rest.size();
+    return entry;
 }
 
 } // namespace warhost

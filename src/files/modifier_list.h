@@ -1,10 +1,10 @@
 // The misc modifier catalogue: what a list file says.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
-#include <string_view>
-#include <vector>
 
 namespace warhost {
 
@@ -20,9 +20,21 @@ struct ModifierEntry {
 };
 
 /// The entries of a list file: a name line and a values line each ("topic|first,second"), ended by CR LF or LF, in
-/// UTF-8 (a byte-order mark is skipped) or else Windows-1252. Reading ends after an entry without values, with
+/// UTF-8 (a byte-order mark is skipped) or else Windows-1252. The list ends after an entry without values, with
 /// nothing after its comma, or with neither name nor comma. A last name line without a values line makes no entry.
-/// Never fails.
-std::vector<ModifierEntry> parse_modifier_list(std::string_view bytes);
+/// Holds the file's bytes; an entry is made when it is asked for, as a list may have millions.
+class ModifierList {
+public:
+    ModifierList() = default;
+    explicit ModifierList(std::string bytes);
+
+    /// The next entry; nothing at the end. Throws only std::bad_alloc, and then gives the same entry when called again.
+    std::optional<ModifierEntry> next();
+
+private:
+    std::string bytes_;
+    std::size_t at_ = 0;
+    bool is_utf8_ = true;
+};
 
 } // namespace warhost

@@ -3,6 +3,7 @@
 #include "ui/main.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace warhost {
 
@@ -24,55 +25,63 @@ std::string proposed_file_name(std::string name)
 bool Main::refused_on_combat_tab()
 {
     if (army_tab_selected()) return false;
-    desktop_.message_box(
-        {.text = "Please click on either the Side A or Side B tab before using this menu.", .icon = Icon::exclamation});
+    quiet_step([&] {
+        desktop_.message_box({.text = "Please click on either the Side A or Side B tab before using this menu.",
+                              .icon = Icon::exclamation});
+    });
     return true;
 }
 
 void Main::cmdLoadArmy_Click()
 {
     if (refused_on_combat_tab()) return;
+    std::optional<std::string> path;
     step([&] {
-        auto const path = desktop_.file_dialog({.kind = FileDialogKind::open,
-                                                .title = "Load Warhost Army File",
-                                                .default_extension = file_extension,
-                                                .filter = file_filter,
-                                                .file_name = {},
-                                                .file_must_exist = true,
-                                                .folder_must_exist = true,
-                                                .hide_read_only = true});
+        KeptTab const kept{*this};
+        path = desktop_.file_dialog({.kind = FileDialogKind::open,
+                                     .title = "Load Warhost Army File",
+                                     .default_extension = file_extension,
+                                     .filter = file_filter,
+                                     .file_name = {},
+                                     .file_must_exist = true,
+                                     .folder_must_exist = true,
+                                     .hide_read_only = true});
         if (!path) return;
         bool exists = false;
         desktop_.wait_for([&] { exists = FileExists(*path); });
-        if (!exists) {
-            desktop_.message_box({.text = "File not found."});
-            return;
-        }
+        if (exists) return;
+        path.reset();
+        desktop_.message_box({.text = "File not found."});
+    });
+    if (path) {
         LoadArmy(*path);
-        CurArmy_Save();
+        step([&] { CurArmy_Save(); });
         CurArmy_Update();
         CalcTotal();
-    });
+    }
     ErrReport("loading an army file");
 }
 
 void Main::cmdSaveArmy_Click()
 {
     if (refused_on_combat_tab()) return;
+    std::optional<std::string> path;
     step([&] {
-        auto const path = desktop_.file_dialog({.kind = FileDialogKind::save,
-                                                .title = "Save Warhost Army File",
-                                                .default_extension = file_extension,
-                                                .filter = file_filter,
-                                                .file_name = proposed_file_name(CurArmy.Name),
-                                                .folder_must_exist = true,
-                                                .hide_read_only = true,
-                                                .overwrite_prompt = true});
-        if (!path) return;
-        SaveArmy(*path);
-        CurArmy_Save();
-        CurArmy_Update();
+        KeptTab const kept{*this};
+        path = desktop_.file_dialog({.kind = FileDialogKind::save,
+                                     .title = "Save Warhost Army File",
+                                     .default_extension = file_extension,
+                                     .filter = file_filter,
+                                     .file_name = proposed_file_name(CurArmy.Name),
+                                     .folder_must_exist = true,
+                                     .hide_read_only = true,
+                                     .overwrite_prompt = true});
     });
+    if (path) {
+        SaveArmy(*path);
+        step([&] { CurArmy_Save(); });
+        CurArmy_Update();
+    }
     ErrReport("Saving an army file");
 }
 
@@ -80,9 +89,13 @@ void Main::LoadArmy(std::string const& path)
 {
     step([&] {
         std::string bytes;
-        desktop_.wait_for([&] { bytes = read_file(path); });
+        {
+            KeptTab const kept{*this};
+            desktop_.wait_for([&] { bytes = read_file(path); });
+        }
         CurArmy = decode_army(bytes);
     });
+    KeptTab const kept{*this};
     ErrReport("Loading an army");
 }
 
@@ -90,8 +103,10 @@ void Main::SaveArmy(std::string const& path)
 {
     step([&] {
         std::string const bytes = encode_army(CurArmy);
+        KeptTab const kept{*this};
         desktop_.wait_for([&] { replace_file(path, bytes); });
     });
+    KeptTab const kept{*this};
     ErrReport("Saving an army");
 }
 

@@ -6,35 +6,58 @@
 
 namespace warhost {
 
+namespace {
+
+/// Set for as long as it lives.
+class RaisedFlag {
+public:
+    explicit RaisedFlag(bool& flag) : flag_(flag) { flag_ = true; }
+    RaisedFlag(RaisedFlag const&) = delete;
+    RaisedFlag& operator=(RaisedFlag const&) = delete;
+    ~RaisedFlag() { flag_ = false; }
+
+private:
+    bool& flag_;
+};
+
+} // namespace
+
 bool Main::army_tab_selected() { return TabStrip.position() == tab_side_a || TabStrip.position() == tab_side_b; }
 
 int Main::shown_side() { return TabStrip.position() == tab_side_b ? 1 : 0; }
 
 void Main::CurArmy_Save()
 {
-    if (army_tab_selected()) of_side(TabStrip.position()) = CurArmy;
+    if (army_tab_selected()) copy_army(CurArmy, of_side(TabStrip.position()));
 }
 
 void Main::CurArmy_Update()
 {
-    Updating = true;
-    txtArmyName.set_text(CurArmy.Name);
+    RaisedFlag const updating{Updating};
+    quiet_step([&] { txtArmyName.set_text(CurArmy.Name); });
     for (int row = 0; row < unit_rows; ++row) {
-        txtUnitType(row).set_text(CurArmy.UnitType.at(row));
-        txtUnitNum(row).set_text(plain_text(CurArmy.UnitNum.at(row)));
+        quiet_step([&] { txtUnitType(row).set_text(CurArmy.UnitType.at(row)); });
+        quiet_step([&] { txtUnitNum(row).set_text(plain_text(CurArmy.UnitNum.at(row))); });
     }
-    for (auto& [k, button] : opt) button.set_selected(CurArmy.Opt.at(k) != 0);
-    for (auto& [i, result] : cmbOpt) result.set_text(SignedText(CurArmy.OptValue.at(i)));
-    for (int row = 1; row <= counted_misc_rows(); ++row) {
-        cmbMisc(row).set_text(SignedText(CurArmy.MiscValue.at(row)));
-        chkMisc(row).set_state(CurArmy.MiscCheck.at(row) == 1 ? 1 : 0);
-    }
-    cmbLevel.set_text(general_text(CurArmy.Level, desktop_.number_format()));
+    quiet_step([&] {
+        for (auto& [k, button] : opt) button.set_selected(CurArmy.Opt.at(k) != 0);
+    });
+    quiet_step([&] {
+        for (auto& [i, result] : cmbOpt) result.set_text(SignedText(CurArmy.OptValue.at(i)));
+    });
+    quiet_step([&] {
+        for (int row = 1; row <= counted_misc_rows(); ++row) {
+            cmbMisc(row).set_text(SignedText(CurArmy.MiscValue.at(row)));
+            chkMisc(row).set_state(CurArmy.MiscCheck.at(row) == 1 ? 1 : 0);
+        }
+    });
+    quiet_step([&] { cmbLevel.set_text(general_text(CurArmy.Level, desktop_.number_format())); });
     quiet_step([&] { CalcArmyTotal(); });
-    CurArmy_Save();
-    txtTotal.set_text(plain_text(CurArmy.TotalMod));
-    show_total_modifiers();
-    Updating = false;
+    quiet_step([&] { CurArmy_Save(); });
+    quiet_step([&] {
+        txtTotal.set_text(plain_text(CurArmy.TotalMod));
+        show_total_modifiers();
+    });
 }
 
 void Main::show_total_modifiers()
@@ -48,7 +71,8 @@ void Main::TabStrip_Click()
     FrameArmy.set_visible(false);
     FrameCombat.set_visible(false);
     if (army_tab_selected()) {
-        CurArmy = of_side(TabStrip.position());
+        // Without its own record the screen would show, and then store, the other side's.
+        if (!quiet_step([&] { copy_army(of_side(TabStrip.position()), CurArmy); })) return TabStrip.choose(tab_combat);
         FrameArmy.set_visible(true);
         CurArmy_Update();
         CalcTotal();
@@ -59,37 +83,42 @@ void Main::TabStrip_Click()
 
 void Main::txtArmyName_Change()
 {
-    CurArmy.Name = txtArmyName.text();
-    CurArmy_Save();
+    quiet_step([&] { CurArmy.Name = txtArmyName.text(); });
+    quiet_step([&] { CurArmy_Save(); });
 }
 
 void Main::txtUnitType_Change(int Index)
 {
-    CurArmy.UnitType.at(Index) = txtUnitType(Index).text();
-    CurArmy_Save();
+    quiet_step([&] { CurArmy.UnitType.at(Index) = txtUnitType(Index).text(); });
+    quiet_step([&] { CurArmy_Save(); });
     int const side = shown_side();
-    for (int row = 0; row < unit_rows; ++row) txtAName(combat_row(side, row)).set_text(txtUnitType(row).text());
+    quiet_step([&] {
+        for (int row = 0; row < unit_rows; ++row) txtAName(combat_row(side, row)).set_text(txtUnitType(row).text());
+    });
 }
 
 void Main::txtUnitNum_Change(int Index)
 {
-    CurArmy.UnitNum.at(Index) = TextToLong(txtUnitNum(Index).text());
+    quiet_step([&] { CurArmy.UnitNum.at(Index) = TextToLong(txtUnitNum(Index).text()); });
     quiet_step([&] { CalcTotalNo(); });
     CalcTotal();
     int const side = shown_side();
-    for (int row = 0; row < unit_rows; ++row) txtANum(combat_row(side, row)).set_text(txtUnitNum(row).text());
+    quiet_step([&] {
+        for (int row = 0; row < unit_rows; ++row) txtANum(combat_row(side, row)).set_text(txtUnitNum(row).text());
+    });
 }
 
 void Main::opt_Click(int Index)
 {
-    std::string const& tag = opt(Index).tag();
-    auto const comma = tag.find(',');
-    int const low = TextToInt(tag);
-    int const high = comma == std::string::npos ? low : TextToInt(tag.substr(comma + 1));
-    ComboBox& result = cmbOpt(option_of(Index)->category);
-    result.clear_list();
-    for (int value = low; value <= high; ++value) result.add_item(SignedText(value));
-    result.set_text(SignedText(low));
+    quiet_step([&] {
+        std::string const& tag = opt(Index).tag();
+        auto const comma = tag.find(',');
+        int const low = TextToInt(tag);
+        int const high = comma == std::string::npos ? low : TextToInt(tag.substr(comma + 1));
+        ComboBox& result = cmbOpt(option_of(Index)->category);
+        result.set_list(low, high);
+        result.set_text(SignedText(low));
+    });
     CalcTotal();
 }
 
@@ -108,7 +137,7 @@ void Main::cmbMisc_Click(int /*Index*/) { CalcTotal(); }
 void Main::chkMisc_Click(int Index)
 {
     CalcTotal();
-    chkMisc(Index).set_bold(chkMisc(Index).state() == 1);
+    quiet_step([&] { chkMisc(Index).set_bold(chkMisc(Index).state() == 1); });
 }
 
 int Main::counted_misc_rows()
@@ -121,26 +150,35 @@ void Main::CalcTotal()
 {
     if (Updating) return;
     ClearChoices();
-    for (auto& [k, button] : opt) CurArmy.Opt.at(k) = static_cast<std::int16_t>(button.selected() ? -1 : 0);
-    for (auto& [i, result] : cmbOpt) CurArmy.OptValue.at(i) = TextToLong(result.text());
-    for (int row = 1; row <= counted_misc_rows(); ++row) {
-        CurArmy.MiscValue.at(row) = TextToLong(cmbMisc(row).text());
-        CurArmy.MiscCheck.at(row) = static_cast<std::int16_t>(chkMisc(row).state());
-    }
-    NumberFormat const format = desktop_.number_format();
-    CurArmy.Level = TextToSingle(cmbLevel.text(), format);
+    quiet_step([&] {
+        for (auto& [k, button] : opt) CurArmy.Opt.at(k) = static_cast<std::int16_t>(button.selected() ? -1 : 0);
+    });
+    quiet_step([&] {
+        for (auto& [i, result] : cmbOpt) CurArmy.OptValue.at(i) = TextToLong(result.text());
+    });
+    quiet_step([&] {
+        for (int row = 1; row <= counted_misc_rows(); ++row) {
+            CurArmy.MiscValue.at(row) = TextToLong(cmbMisc(row).text());
+            CurArmy.MiscCheck.at(row) = static_cast<std::int16_t>(chkMisc(row).state());
+        }
+    });
+    NumberFormat format;
+    quiet_step([&] { format = desktop_.number_format(); });
+    quiet_step([&] { CurArmy.Level = TextToSingle(cmbLevel.text(), format); });
     int const tab = TabStrip.position();
     (tab == tab_side_a ? ArmyB : ArmyA).OtherLevel = CurArmy.Level;
     quiet_step([&] { CalcTotalNo(); });
     quiet_step([&] { CalcTroopRatio(tab); });
     quiet_step([&] { CalcArmyTotal(); });
     quiet_step([&] { CalcOtherTotal(tab); });
-    CurArmy_Save();
-    txtTotal.set_text(plain_text(CurArmy.TotalMod));
-    txtTotalNo.set_text(plain_text(CurArmy.TotalNo));
-    show_total_modifiers();
-    lblOtherLevel.set_caption(general_text(CurArmy.OtherLevel, format));
-    lblLevelBonus.set_caption(SignedText(CurArmy.LevelBonus));
+    quiet_step([&] { CurArmy_Save(); });
+    quiet_step([&] {
+        txtTotal.set_text(plain_text(CurArmy.TotalMod));
+        txtTotalNo.set_text(plain_text(CurArmy.TotalNo));
+        show_total_modifiers();
+        lblOtherLevel.set_caption(general_text(CurArmy.OtherLevel, format));
+        lblLevelBonus.set_caption(SignedText(CurArmy.LevelBonus));
+    });
 }
 
 void Main::CalcTroopRatio(int Side)

@@ -5,17 +5,19 @@
 
 namespace warhost {
 
-void Main::ErrReport(std::string const& context)
+void Main::ErrReport(std::string_view context)
 {
     if (pending_error.number == 0) return;
     Failure const failure = std::exchange(pending_error, {});
-    std::string text = "Error " + plain_text(failure.number) + ": '" + failure.text + "'.\r\n";
-    if (!context.empty()) text += "Raised while " + context + "\r\n";
-    text += "\r\nPress Ignore to continue.\r\n"
-            "If you press Abort, the program will end and you will lose any unsaved data."
-            "\r\nIf this error occurs again, try reinstalling Gamemind.\r\n";
-    auto const answer =
-        desktop_.message_box({text, "Error!", Buttons::abort_retry_ignore, Icon::critical, Answer::ignore});
+    auto answer = Answer::ignore;
+    quiet_step([&] {
+        std::string text = "Error " + plain_text(failure.number) + ": '" + failure.text + "'.\r\n";
+        if (!context.empty()) text.append("Raised while ").append(context).append("\r\n");
+        text += "\r\nPress Ignore to continue.\r\n"
+                "If you press Abort, the program will end and you will lose any unsaved data."
+                "\r\nIf this error occurs again, try reinstalling Gamemind.\r\n";
+        answer = desktop_.message_box({text, "Error!", Buttons::abort_retry_ignore, Icon::critical, Answer::ignore});
+    });
     if (answer == Answer::abort) desktop_.end_program();
 }
 

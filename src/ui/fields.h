@@ -5,6 +5,7 @@
 #pragma once
 
 #include "army/failure.h"
+#include "army/value_conversion.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -74,6 +75,13 @@ public:
         notify(Change);
     }
 
+    /// Shows the text without running Change.
+    void set_text_silently(std::string text)
+    {
+        text_ = std::move(text);
+        notify(show);
+    }
+
     Notification Change;
     bool read_only = false; // for the user; the program sets the text all the same
 
@@ -89,19 +97,38 @@ struct Place {
     float Height = 0;
 };
 
-/// An editable text with a list of proposals.
+/// An editable text with a list of proposals: a range of whole numbers. Only the two ends are kept, as a range may
+/// have 64001 of them.
 class ComboBox : public TextBox {
 public:
+    using ItemText = std::string (*)(std::int64_t);
+
     using TextBox::TextBox;
 
-    std::vector<std::string> const& list() const { return list_; }
-    void clear_list() { list_.clear(); }
-    void add_item(std::string item) { list_.push_back(std::move(item)); }
+    /// Proposes first to last in ascending order, each written by `write`; nothing when first is greater than last.
+    void set_list(int first, int last, ItemText write = SignedText)
+    {
+        first_ = first;
+        size_ = std::max(last - first + 1, 0);
+        item_text_ = write;
+    }
+
+    int list_size() const { return size_; }
+
+    /// index: 0 to list_size() - 1.
+    std::string item(int index) const { return item_text_(first_ + index); }
+
+    /// Where the field's own text is in the list; -1 when it is not there.
+    int listed_index() const
+    {
+        std::int64_t const index = std::int64_t{TextToLong(text())} - first_;
+        return index >= 0 && index < size_ && item(static_cast<int>(index)) == text() ? static_cast<int>(index) : -1;
+    }
 
     /// The user chooses an item of the list: its text is set, which runs Change, then Click runs.
-    void choose(std::size_t item)
+    void choose(int index)
     {
-        set_text(list_.at(item));
+        set_text(item(index));
         notify(Click);
     }
 
@@ -111,7 +138,9 @@ public:
     Place place;
 
 private:
-    std::vector<std::string> list_;
+    int first_ = 0;
+    int size_ = 0;
+    ItemText item_text_ = SignedText;
 };
 
 class CheckBox : public Control {
@@ -135,11 +164,6 @@ public:
     }
 
     std::string const& caption() const { return caption_; }
-    void set_caption(std::string caption)
-    {
-        caption_ = std::move(caption);
-        notify(show);
-    }
 
     bool bold() const { return bold_; }
     void set_bold(bool bold)
@@ -324,7 +348,7 @@ public:
         return found->second;
     }
 
-    bool contains(int index) const { return elements_.contains(index); }
+    void remove(int index) { elements_.erase(index); }
     int highest() const { return elements_.rbegin()->first; }
 
     auto begin() { return elements_.begin(); }

@@ -11,7 +11,7 @@ Main::Main(Desktop& desktop, RandomSource& random) : desktop_(desktop), random_(
                    option_groups_.at(static_cast<std::size_t>(option.category)));
     }
     for (auto& [category, result] : cmbOpt) result.tooltip = "Final Result of options";
-    for (int level = 1; level <= 20; ++level) cmbLevel.add_item(plain_text(level));
+    cmbLevel.set_list(1, 20, plain_text);
     chkMisc(0).visible = false;
     chkMisc(0).place = {120, 0, 5655, 255};
     cmbMisc(0).visible = false;

@@ -5,18 +5,23 @@
 #include "army/modifier_options.h"
 #include "battle/battle_state.h"
 #include "battle/random.h"
+#include "files/modifier_list.h"
 #include "ui/desktop.h"
 #include "ui/fields.h"
+#include "ui/memory_reserve.h"
 
 #include <array>
 #include <cstdint>
 #include <new>
 #include <string>
+#include <string_view>
+#include <utility>
 
 namespace warhost {
 
 /// Runs without any window system: a screen, where there is one, binds its widgets to the fields.
-/// Form_Load must run once before anything else, when the window is created.
+/// Form_Load must run once before anything else, when the window is created. No handler lets a Failure or a
+/// std::bad_alloc out.
 class Main : public Armies {
 public:
     Main(Desktop& desktop, RandomSource& random);
@@ -188,8 +193,11 @@ public:
 
     // Misc panel (misc_panel.cpp)
 
+    /// Makes the list's first rows; a list may have millions.
     void ReadMiscMod();
     void PositionMiscMod();
+    /// Makes the list's next row, below the others. False when there is none, or no memory for it.
+    bool add_misc_row();
 
     // Combat screen (combat_screen.cpp)
 
@@ -220,32 +228,60 @@ public:
     // Error reporting (error_report.cpp)
 
     /// Shows the pending error, if there is one, and clears it; Abort ends the program.
-    void ErrReport(std::string const& context);
+    void ErrReport(std::string_view context);
     /// False after telling the user that the file is missing.
     bool CheckFile(std::string const& path);
 
-    /// Runs one step of a procedure that reports at its end: a Failure becomes the pending error.
+    /// Runs one step of a procedure that reports at its end: a Failure, or a lack of memory, becomes the pending error.
     template <class Step> void step(Step&& run)
     {
         try {
             run();
-        } catch (Failure const& failure) {
-            pending_error = failure;
+        } catch (Failure& failure) {
+            pending_error = std::move(failure);
         } catch (std::bad_alloc const&) {
-            pending_error = failure_of(Fault::out_of_memory);
+            reserve_.free();
+            pending_error = {static_cast<std::int32_t>(Fault::out_of_memory), {}};
+            quiet_step([&] { pending_error = failure_of(Fault::out_of_memory); });
         }
     }
 
-    /// Runs one step of a computation: a Failure is passed over.
-    template <class Step> static void quiet_step(Step&& run)
+    /// Runs one step of a computation. A Failure ends the step and is passed over. When memory runs out, the reserve is
+    /// freed and the step runs once more, so it must be safe to run twice. Returns whether the step was completed.
+    template <class Step> bool quiet_step(Step&& run)
     {
-        try {
-            run();
-        } catch (Failure const&) { // the next step goes on with what there is
+        for (int attempt = 0; attempt < 2; ++attempt) {
+            try {
+                run();
+                reserve_.fill();
+                return true;
+            } catch (Failure const&) {
+                return false;
+            } catch (std::bad_alloc const&) {
+                reserve_.free();
+            }
         }
+        return false;
     }
 
 private:
+    /// At its end selects the tab that was selected when it was made. What waits, for an answer or for a disk, may let
+    /// other events in.
+    class KeptTab {
+    public:
+        explicit KeptTab(Main& form) : form_(form), position_(form.TabStrip.position()) {}
+        KeptTab(KeptTab const&) = delete;
+        KeptTab& operator=(KeptTab const&) = delete;
+        ~KeptTab()
+        {
+            if (form_.TabStrip.position() != position_) form_.TabStrip.choose(position_);
+        }
+
+    private:
+        Main& form_;
+        int position_;
+    };
+
     void connect_handlers();
     bool army_tab_selected();
     /// Index 0 or 1; 0 also on the combat tab.
@@ -254,10 +290,15 @@ private:
     int counted_misc_rows();
     void show_total_modifiers();
     bool refused_on_combat_tab();
+    bool make_misc_row();
+    void place_misc_row(int row);
     int effective_casualty_bonus();
+    void describe(RichTextBox& box, std::string_view account);
     void spread_losses(int Index, int percent);
 
     std::array<OptionGroup, category_count> option_groups_;
+    ModifierList misc_list_; // what follows the rows that were made
+    MemoryReserve reserve_;
     Desktop& desktop_;
     RandomSource& random_;
 };

@@ -3,6 +3,7 @@
 #include "ui/main.h"
 
 #include <filesystem>
+#include <optional>
 
 namespace warhost {
 
@@ -17,47 +18,80 @@ std::string caption_of(ModifierEntry const& entry)
 {
     std::string const range =
         entry.low == entry.high ? SignedText(entry.low) : SignedText(entry.low) + " to " + SignedText(entry.high);
-    return std::string{without_outer(" ", entry.name + " (" + range + ")")};
+    std::string caption;
+    caption.reserve(entry.name.size() + range.size() + 3); // a name may fill a whole file
+    caption.append(entry.name).append(" (").append(range).append(")");
+    return std::string{without_outer(" ", caption)};
 }
+
+/// Rows that are made with the list; the others are made when the panel is tall enough to show them.
+constexpr int first_rows = 1000;
+static_assert(first_rows >= record_choices - 1, "every row that counts is there from the start");
 
 } // namespace
 
 void Main::ReadMiscMod()
 {
-    std::string const path = list_path(desktop_.program_directory());
-    if (!CheckFile(path)) return;
-    std::vector<ModifierEntry> entries;
-    quiet_step([&] { entries = parse_modifier_list(read_file(path)); });
-    int row = 0;
-    for (auto const& entry : entries) {
-        ++row;
+    bool found = false;
+    quiet_step([&] {
+        std::string const path = list_path(desktop_.program_directory());
+        found = CheckFile(path);
+        if (found) desktop_.wait_for([&] { misc_list_ = ModifierList{read_file(path)}; });
+    });
+    if (!found) return;
+    while (chkMisc.highest() < first_rows && make_misc_row()) {}
+    PositionMiscMod();
+}
+
+bool Main::make_misc_row()
+{
+    std::optional<ModifierEntry> entry;
+    quiet_step([&] { entry = misc_list_.next(); });
+    if (!entry) return false;
+    int const row = cmbMisc.highest() + 1;
+    bool const made = quiet_step([&] {
         ComboBox& value = cmbMisc.create(row);
+        value.place = cmbMisc(0).place;
+        value.help_topic = entry->help_topic;
+        value.set_list(entry->low, entry->high);
+        value.set_text(SignedText(entry->initial));
         value.Change = [this, row] { cmbMisc_Change(row); };
         value.Click = [this, row] { cmbMisc_Click(row); };
-        value.place = cmbMisc(0).place;
-        value.help_topic = entry.help_topic;
-        for (int k = entry.low; k <= entry.high; ++k) value.add_item(SignedText(k));
-        value.set_text(SignedText(entry.initial));
 
-        CheckBox& box = chkMisc.create(row, caption_of(entry));
+        CheckBox& box = chkMisc.create(row, caption_of(*entry));
         box.Click = [this, row] { chkMisc_Click(row); };
         box.place = chkMisc(0).place;
         box.striped = row % 2 == 1;
-        box.help_topic = entry.help_topic;
-    }
-    PositionMiscMod();
+        box.help_topic = entry->help_topic;
+    });
+    if (made) return true;
+    // Armies know the rows by their place, so no later row may take this one's.
+    chkMisc.remove(row);
+    cmbMisc.remove(row);
+    misc_list_ = {};
+    return false;
+}
+
+bool Main::add_misc_row()
+{
+    if (!make_misc_row()) return false;
+    place_misc_row(cmbMisc.highest());
+    return true;
+}
+
+void Main::place_misc_row(int row)
+{
+    auto const pixel = static_cast<float>(desktop_.twips_per_pixel_y());
+    Place& value = cmbMisc(row).place;
+    value.Top = cmbMisc(row - 1).place.Top + value.Height - pixel;
+    Place& box = chkMisc(row).place;
+    box.Top = value.Top;
+    box.Height = value.Height;
 }
 
 void Main::PositionMiscMod()
 {
-    auto const pixel = static_cast<float>(desktop_.twips_per_pixel_y());
-    for (int row = 1; row <= cmbMisc.highest(); ++row) {
-        Place& value = cmbMisc(row).place;
-        value.Top = cmbMisc(row - 1).place.Top + value.Height - pixel;
-        Place& box = chkMisc(row).place;
-        box.Top = value.Top;
-        box.Height = value.Height;
-    }
+    for (int row = 1; row <= cmbMisc.highest(); ++row) place_misc_row(row);
 }
 
 } // namespace warhost

@@ -3,7 +3,8 @@
 #include "ui/simulation_report.h"
 
 #include <algorithm>
-#include <utility>
+#include <optional>
+#include <string>
 
 namespace warhost {
 
@@ -11,47 +12,52 @@ namespace {
 
 constexpr std::int32_t batch_size = 1 << 20; // battles; some milliseconds
 
-/// Puts a text in place that was there already in the battles' eyes: its handler has run.
-void set_without_change(TextBox& box, int value)
-{
-    auto handler = std::exchange(box.Change, {});
-    box.set_text(plain_text(value));
-    box.Change = std::move(handler);
-}
-
 } // namespace
 
 void Main::cmdSimulate_Click()
 {
-    auto const answer =
-        desktop_.input_box({"Enter the number of times to simulate a battle.", "Simulate N Battles", "1000"});
-    std::int32_t const battles = std::max(TextToLong(answer), 1);
+    std::string answer;
+    bool const asked = quiet_step([&] {
+        answer = desktop_.input_box({"Enter the number of times to simulate a battle.", "Simulate N Battles", "1000"});
+    });
+    if (!asked) return;
+    std::int32_t battles = 0;
+    std::optional<Simulation> simulation;
+    quiet_step([&] {
+        battles = std::max(TextToLong(answer), 1);
+        simulation.emplace(TextToInt(txtTotalMod(0).text()), TextToInt(txtTotalMod(1).text()),
+                           CarriedOver{TextToInt(txtResult(1).text()), TextToInt(txtVictorCasRoll.text())});
+    });
+    if (!simulation) return;
 
-    Simulation simulation{TextToInt(txtTotalMod(0).text()),
-                          TextToInt(txtTotalMod(1).text()),
-                          {TextToInt(txtResult(1).text()), TextToInt(txtVictorCasRoll.text())}};
     for (std::int32_t left = battles - 1; left > 0;) {
         std::int32_t const batch = std::min(left, batch_size);
-        simulation.fight(random_, batch);
+        simulation->fight(random_, batch);
         left -= batch;
-        desktop_.show_progress(battles - left, battles);
+        quiet_step([&] { desktop_.show_progress(battles - left, battles); });
     }
+    // The last battle is fought on the screen, which then shows it whole. The others have left two texts there, which
+    // they have already accounted for.
     if (battles > 1) {
-        set_without_change(txtResult(1), simulation.carried_over().result_b);
-        set_without_change(txtVictorCasRoll, simulation.carried_over().victor_roll);
+        quiet_step([&] {
+            txtResult(1).set_text_silently(plain_text(simulation->carried_over().result_b));
+            txtVictorCasRoll.set_text_silently(plain_text(simulation->carried_over().victor_roll));
+        });
     }
-
-    // The last battle is fought on the screen, which then shows it whole.
     cmdRollAll_Click();
     if (chkMinus5.state() == 1 || chkPlus5.state() == 1) {
         cmdRollCasualty_Click();
         cmdRollVictorCas_Click();
     }
-    simulation.tally().count(Tally::place_of(battle.Winner, battle.WinMargin) +
-                             static_cast<std::size_t>(TextToInt(txtVictorCasPercent.text())));
-    desktop_.show_report(
-        {.text = simulation_report(simulation.tally(), desktop_.number_format()), .title = "Warhost Simulation"},
-        simulation.tally());
+    quiet_step([&] {
+        auto const share = static_cast<std::size_t>(TextToInt(txtVictorCasPercent.text()));
+        simulation->tally().count(Tally::place_of(battle.Winner, battle.WinMargin) + share);
+    });
+    quiet_step([&] {
+        Tally const& tally = simulation->tally();
+        desktop_.show_report(
+            {.text = simulation_report(tally, desktop_.number_format()), .title = "Warhost Simulation"}, tally);
+    });
 }
 
 } // namespace warhost

@@ -33,13 +33,20 @@ void Main::Form_Resize()
 
 bool Main::Form_QueryUnload()
 {
-    return desktop_.message_box({.text = "Are you sure you wish to quit?",
-                                 .title = "Quit Warhost?",
-                                 .buttons = Buttons::yes_no,
-                                 .default_answer = Answer::yes}) == Answer::yes;
+    auto answer = Answer::no;
+    quiet_step([&] {
+        answer = desktop_.message_box({.text = "Are you sure you wish to quit?",
+                                       .title = "Quit Warhost?",
+                                       .buttons = Buttons::yes_no,
+                                       .default_answer = Answer::yes});
+    });
+    return answer == Answer::yes;
 }
 
-void Main::mnuQuit_Click() { desktop_.close_window(); }
+void Main::mnuQuit_Click()
+{
+    quiet_step([&] { desktop_.close_window(); });
+}
 
 void Main::mnuLoad_Click() { cmdLoadArmy_Click(); }
 

@@ -10,9 +10,10 @@ namespace {
 std::string read(std::string const& bytes)
 {
     std::string text;
-    for (auto const& entry : parse_modifier_list(bytes))
-        text += (text.empty() ? "" : " ") + entry.name + "/" + std::to_string(entry.help_topic) + "/" +
-                std::to_string(entry.low) + ".." + std::to_string(entry.high) + "/" + std::to_string(entry.initial);
+    ModifierList list{bytes};
+    while (auto const entry = list.next())
+        text += (text.empty() ? "" : " ") + entry->name + "/" + std::to_string(entry->help_topic) + "/" +
+                std::to_string(entry->low) + ".." + std::to_string(entry->high) + "/" + std::to_string(entry->initial);
     return text;
 }
 

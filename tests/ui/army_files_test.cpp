@@ -68,7 +68,7 @@ TEST_F(ArmyFiles, are_judged_by_the_screen_and_carried_where_it_shows_nothing)
     form.TabStrip.choose(2);
     load(encode_army(army));
     EXPECT_EQ(texts(form.cmbOpt(0), form.cmbOpt(6), form.cmbLevel, form.lblOtherLevel), "+4/+3/3/1.5");
-    EXPECT_TRUE(form.opt(3).selected() && form.cmbOpt(0).list().back() == "+4");
+    EXPECT_TRUE(form.opt(3).selected() && form.cmbOpt(0).item(2) == "+4");
     EXPECT_TRUE(form.chkMisc(1).bold() && form.chkMisc(2).state() == 0);
     EXPECT_EQ(texts(form.txtAName(8), form.txtANum(8), form.txtAName(0), form.txtANum(0)), "Archers/50//0");
     EXPECT_EQ(texts(form.txtTotalMod(1), form.txtTotal, form.txtTotalNo), "30/30/50");
@@ -118,6 +118,25 @@ TEST_F(ArmyFiles, that_fail_leave_everything_as_it_was)
     EXPECT_THROW(form.cmdLoadArmy.press(), ProgramEnded);
     EXPECT_EQ(folder.read("x.Army"), "\5");
     EXPECT_EQ(folder.names(), (std::set<std::string>{"modif.txt", "x.Army"}));
+}
+
+TEST_F(ArmyFiles, belong_to_the_side_on_which_the_command_began)
+{
+    form.TabStrip.choose(2);
+    form.txtArmyName.set_text("Dwarves");
+    form.TabStrip.choose(1);
+    Army elves;
+    elves.Name = "Elves";
+    for (int const tab : {2, 3}) { // selected while the command waits
+        desktop.while_waiting = desktop.while_asked = [&] { form.TabStrip.choose(tab); };
+        load(encode_army(elves));
+        EXPECT_EQ(form.ArmyA.Name + " " + form.ArmyB.Name + " " + form.txtArmyName.text(), "Elves Dwarves Elves");
+        form.cmdSaveArmy.press();
+        EXPECT_EQ(decode_army(folder.read("x.Army")).Name, "Elves");
+        load("not an army");
+        EXPECT_EQ(form.ArmyA.Name + " " + form.ArmyB.Name + " " + form.txtArmyName.text(), "Elves Dwarves Elves");
+        EXPECT_EQ(form.TabStrip.position(), 1);
+    }
 }
 
 TEST_F(ArmyFiles, that_are_cut_or_damaged_anywhere_change_nothing_or_are_carried_as_they_are)

@@ -15,7 +15,7 @@ std::string totals(Main& form)
 std::string offered(ComboBox const& box)
 {
     std::string text = box.text() + " of";
-    for (auto const& item : box.list()) text += " " + item;
+    for (int place = 0; place < box.list_size(); ++place) text += " " + box.item(place);
     return text;
 }
 
@@ -31,7 +31,7 @@ TEST_F(ArmyScreen, starts_with_two_armies_alike_and_side_a_shown)
     EXPECT_EQ(form.ArmyB, expected);
     EXPECT_EQ(totals(form), "0/0 1.0:1 +0, vs 0 +0, A 0 B 0");
     EXPECT_EQ(texts(form.cmbLevel, form.cmbOpt(0), form.txtUnitNum(7), form.txtANum(15)), "1/+0/0/0");
-    EXPECT_EQ(form.cmbLevel.list().front() + " " + form.cmbLevel.list().back(), "1 20");
+    EXPECT_EQ(form.cmbLevel.item(0) + " " + form.cmbLevel.item(form.cmbLevel.list_size() - 1), "1 20");
     EXPECT_TRUE(form.FrameArmy.visible() && !form.FrameCombat.visible());
     EXPECT_TRUE(form.battle == BattleState{} && desktop.boxes.empty());
 }

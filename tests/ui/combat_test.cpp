@@ -166,6 +166,16 @@ TEST_F(CombatScreen, announces_a_side_without_soldiers_every_time)
     EXPECT_EQ(desktop.boxes, (std::vector{first + "A" + rest, first + "A" + rest, first + "B" + rest}));
     form.txtLoserCasualty.set_text("10");
     EXPECT_EQ(texts(form.txtLoses(8), form.txtLoses(9)), "-2/2"); // a negative row loses a negative number
+    for (auto const& [soldiers, loss, left, announced] :
+         {std::tuple{"10", "9", "1", 0}, {"10", "10", "0", 1}, {"-2e9", "2e9", "-2000000000", 1}}) { // beyond 32 bits
+        form.TabStrip.choose(1);
+        for (int const row : {0, 1}) form.txtUnitNum(row).set_text(row == 0 ? soldiers : "0");
+        form.txtLoses(0).set_text(loss);
+        desktop.boxes.clear();
+        form.cmdApplyCasualties(0).press();
+        EXPECT_EQ(form.txtANum(0).text(), left);
+        EXPECT_EQ(desktop.boxes.size(), announced) << loss;
+    }
 }
 
 TEST_F(CombatScreen, simulates_and_reports_wins_ties_and_average_casualties)

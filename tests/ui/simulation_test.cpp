@@ -81,6 +81,19 @@ TEST(SimulateCommand, leaves_what_as_many_battles_on_the_screen_leave)
     }
 }
 
+TEST(SimulateCommand, fights_as_many_battles_as_it_is_asked_for_in_batches)
+{
+    Start const no_tie{25, 0, 0, 0, 0, 0, 0, 0};
+    Fighter fighter{no_tie, 8}, last{no_tie, 8};
+    fighter.desktop.typed = "1048579";
+    fighter.form.cmdSimulate.press();
+    EXPECT_EQ(fighter.desktop.requests.at(1), "1048577 of 1048579");
+    EXPECT_EQ(fighter.desktop.requests.at(2), "1048579 of 1048579");
+    Simulation{25, 0, {}}.fight(last.generator, 1048578);
+    last.fight_on_the_screen(1);
+    EXPECT_TRUE(fighter.generator == last.generator);
+}
+
 TEST(SimulateCommand, has_a_fingerprint)
 {
     Fighter fighter{{3, 1, 1, 0, 0, 0, 0, 0}, 20};

@@ -86,5 +86,24 @@ TEST(Soak, whatever_is_done_the_records_and_the_screen_agree)
     EXPECT_EQ(user.form.pending_error.number, 0);
 }
 
+TEST(Soak, a_list_keeps_the_ends_of_its_ranges_and_makes_most_rows_when_they_are_asked_for)
+{
+    std::string list;
+    for (int row = 0; row < 100000; ++row) list += "Row\r\n-32000,32000\r\n";
+    std::size_t const before = bytes_in_use();
+    Program program{list};
+    EXPECT_LT(bytes_in_use(), before + list.size() + 2000000);
+    Main& form = program.form;
+    int const made = form.cmbMisc.highest();
+    EXPECT_GE(made, 100); // what an army holds
+    EXPECT_TRUE(form.add_misc_row());
+    EXPECT_EQ(form.cmbMisc(made + 1).item(64000) + form.chkMisc(made + 1).caption(), "+32000Row (-32000 to +32000)");
+    EXPECT_EQ(form.cmbMisc(made + 1).place.Top, 300.0F * static_cast<float>(made + 1));
+    int rows = made + 1;
+    while (form.add_misc_row()) ++rows;
+    EXPECT_EQ(rows, 100000);
+    EXPECT_EQ(std::pair(form.cmbMisc.highest(), form.chkMisc.highest()), std::pair(rows, rows));
+}
+
 } // namespace
 } // namespace warhost

@@ -25,9 +25,10 @@ struct ProgramEnded {};
 
 class TestDesktop final : public Desktop {
 public:
-    std::vector<std::string> boxes;    // every message box: "title: text [buttons, icon, default button]"
-    std::optional<Answer> answer;      // to every message box; without it each gets its default answer
-    std::function<void()> while_asked; // runs while a message box is open
+    std::vector<std::string> boxes;      // every message box: "title: text [buttons, icon, default button]"
+    std::optional<Answer> answer;        // to every message box; without it each gets its default answer
+    std::function<void()> while_asked;   // runs while a message box is open
+    std::function<void()> while_waiting; // runs while a file dialog is open, and while a file is waited for
     std::string typed;
     std::optional<std::string> chosen;
     std::vector<std::string> requests; // everything else that was asked for
@@ -52,8 +53,14 @@ public:
     {
         return noted(box.prompt + "|" + box.title + "|" + box.default_text, typed);
     }
+    void wait_for(std::function<void()> const& work) override
+    {
+        if (while_waiting) while_waiting();
+        work();
+    }
     std::optional<std::string> file_dialog(FileDialog const& dialog) override
     {
+        if (while_waiting) while_waiting();
         return noted((dialog.kind == FileDialogKind::open ? "open|" : "save|") + dialog.title + "|" +
                          dialog.default_extension + "|" + dialog.filter + "|" + dialog.file_name +
                          (dialog.file_must_exist ? " file-must-exist" : "") +
@@ -70,6 +77,10 @@ public:
     [[noreturn]] void end_program() override { throw ProgramEnded{}; }
     NumberFormat number_format() override { return format; }
     std::string program_directory() override { return directory; }
+    void show_progress(std::int32_t fought, std::int32_t battles) override
+    {
+        noted(std::to_string(fought) + " of " + std::to_string(battles), true);
+    }
     void show_help(int topic) override { noted("help " + std::to_string(topic), true); }
     bool open_address(std::string const& address) override { return noted(address, false); }
     void show_about() override { noted("about", true); }

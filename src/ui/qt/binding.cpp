@@ -5,14 +5,13 @@
 #include "ui/qt/text.h"
 #include "ui/qt/value_box.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTextEdit>
-
-#include <limits>
 
 namespace warhost {
 
@@ -29,16 +28,25 @@ void show_text(QLineEdit& box, std::string const& text)
 
 void bind_text(TextBox& field, QLineEdit& box)
 {
-    box.setMaxLength(std::numeric_limits<int>::max());
+    box.setMaxLength(longest_text);
     // Assistive technology sets a text without a key; what the form shows comes back equal.
     QObject::connect(&box, &QLineEdit::textChanged, &box, [&](QString const& now) {
-        if (now != to_qt(field.text())) field.set_text(now.toStdString());
+        if (now == to_qt(field.text())) return;
+        if (takes_input(box)) field.set_text(now.toStdString());
+        else field.show();
     });
     field.show = [&] { show_text(box, field.text()); };
     field.show();
 }
 
 } // namespace
+
+bool takes_input(QWidget const& widget)
+{
+    QWidget const* const modal = QApplication::activeModalWidget();
+    bool const is_blocked = modal != nullptr && modal != widget.window() && !modal->isAncestorOf(&widget);
+    return widget.isVisible() && widget.isEnabled() && !is_blocked;
+}
 
 void name_after(Control const& field, QWidget& widget)
 {
@@ -70,8 +78,12 @@ void bind(ComboBox& field, ValueBox& box)
 void bind(CheckBox& field, QCheckBox& box)
 {
     name_after(field, box);
-    box.setText(to_caption(field.caption()));
-    QObject::connect(&box, &QCheckBox::toggled, &box, [&](bool checked) { field.set_state(checked ? 1 : 0); });
+    box.setText(to_caption(beginning_of(field.caption())));
+    QObject::connect(&box, &QCheckBox::toggled, &box, [&](bool checked) {
+        if (checked == (field.state() == 1)) return;
+        if (takes_input(box)) field.set_state(checked ? 1 : 0);
+        else field.show();
+    });
     field.show = [&] { box.setChecked(field.state() == 1); };
     field.show();
 }
@@ -81,8 +93,9 @@ void bind(OptionButton& field, OptionChoice& choice)
     name_after(field, choice);
     choice.setText(to_caption(field.caption()));
     QObject::connect(&choice, &QRadioButton::toggled, &choice, [&](bool on) {
-        if (on) field.set_selected(true);
-        else if (field.selected()) choice.show_selected(true);
+        if (on == field.selected()) return;
+        if (on && takes_input(choice)) field.set_selected(true);
+        else field.show();
     });
     field.show = [&] { choice.show_selected(field.selected()); };
     field.show();
@@ -92,7 +105,9 @@ void bind(Button& field, QPushButton& button)
 {
     name_after(field, button);
     button.setText(to_caption(field.caption()));
-    QObject::connect(&button, &QPushButton::clicked, &button, [&] { field.press(); });
+    QObject::connect(&button, &QPushButton::clicked, &button, [&] {
+        if (takes_input(button)) field.press();
+    });
 }
 
 void bind(Frame& field, QGroupBox& frame)

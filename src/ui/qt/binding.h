@@ -29,6 +29,13 @@ void bind(Button& field, QPushButton& button);
 void bind(Frame& field, QGroupBox& frame);
 void bind(RichTextBox& field, QTextEdit& box);
 
+/// Characters that a user can enter into one box; no army file holds more in a text.
+inline constexpr int longest_text = 65535;
+
+/// Whether a user can act on the widget now: it is enabled, visible, and no modal dialog blocks its window. Assistive
+/// technology acts on any widget at any time; what it does to one that takes no input is undone.
+bool takes_input(QWidget const& widget);
+
 /// The part of it that every kind shares.
 void name_after(Control const& field, QWidget& widget);
 

@@ -58,8 +58,8 @@ void MiscPanel::resizeEvent(QResizeEvent* event)
 
 void MiscPanel::make_rows_in_sight()
 {
-    int const last = form_.chkMisc.highest();
-    for (int index = static_cast<int>(rows_.size()); index <= last; ++index) {
+    for (int index = static_cast<int>(rows_.size());; ++index) {
+        if (index > form_.chkMisc.highest() && !form_.add_misc_row()) return;
         if (scale_.from_twips(form_.chkMisc(index).place.Top) >= height()) return;
         make_row(index);
     }
@@ -69,7 +69,7 @@ void MiscPanel::make_row(int index)
 {
     CheckBox& box_field = form_.chkMisc(index);
     ComboBox& value_field = form_.cmbMisc(index);
-    QString const caption = to_qt(box_field.caption());
+    QString const caption = beginning_of(box_field.caption());
     Row const row{index, new QCheckBox{this}, new ValueBox{value_field}};
 
     bind(box_field, *row.box);
@@ -118,7 +118,7 @@ void MiscPanel::fit_caption(Row const& row) const
     option.initFrom(row.box);
     int const text_left = style()->subElementRect(QStyle::SE_CheckBoxContents, &option, row.box).left();
     int const room = row.value->x() - row.box->x() - text_left - scale_.from_base(4);
-    QString const caption = to_qt(form_.chkMisc(row.index).caption());
+    QString const caption = beginning_of(form_.chkMisc(row.index).caption());
     QString const shown = row.box->fontMetrics().elidedText(caption, Qt::ElideRight, room);
     row.box->setText(to_caption(shown));
     row.box->setToolTip(shown == caption ? QString{} : to_tooltip(caption));

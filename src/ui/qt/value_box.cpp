@@ -1,5 +1,6 @@
 #include "ui/qt/value_box.h"
 
+#include "ui/qt/binding.h"
 #include "ui/qt/text.h"
 
 #include <QAccessibleWidget>
@@ -81,35 +82,32 @@ ValueBox::ValueBox(ComboBox& field) : field_(field)
     // Leaving the box or pressing Enter chooses nothing, even when the typed text is in the list.
     disconnect(lineEdit(), &QLineEdit::returnPressed, this, nullptr);
     disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
-    connect(this, &QComboBox::activated, this, [this](int item) { field_.choose(static_cast<std::size_t>(item)); });
-}
-
-int ValueBox::listed_place() const
-{
-    auto const& list = field_.list();
-    auto const found = std::find(list.begin(), list.end(), field_.text());
-    return found == list.end() ? -1 : static_cast<int>(found - list.begin());
+    setFocusPolicy(Qt::StrongFocus); // by default the wheel would focus the box, and then change it
+    connect(this, &QComboBox::activated, this, [this](int place) {
+        if (takes_input(*this)) field_.choose(place);
+    });
 }
 
 void ValueBox::showPopup()
 {
     QStringList proposals;
-    for (auto const& item : field_.list()) proposals.push_back(to_qt(item));
+    proposals.reserve(field_.list_size());
+    for (int place = 0; place < field_.list_size(); ++place) proposals.push_back(to_qt(field_.item(place)));
     QSignalBlocker const filling{lineEdit()};
     clear();
     addItems(proposals);
-    setCurrentIndex(listed_place());
+    setCurrentIndex(field_.listed_index());
     setEditText(to_qt(field_.text())); // filling the list has put its first item there
     QComboBox::showPopup();
 }
 
 void ValueBox::step(int places)
 {
-    int const last = static_cast<int>(field_.list().size()) - 1;
+    int const last = field_.list_size() - 1;
     if (last < 0) return;
-    int const place = listed_place();
+    int const place = field_.listed_index();
     int const target = place < 0 ? (places > 0 ? 0 : last) : std::clamp(place + places, 0, last);
-    if (target != place) field_.choose(static_cast<std::size_t>(target));
+    if (target != place) field_.choose(target);
 }
 
 void ValueBox::keyPressEvent(QKeyEvent* event)

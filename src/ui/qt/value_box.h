@@ -20,8 +20,6 @@ protected:
 
 private:
     void put_line_edit();
-    /// The place of the shown text in the field's list; -1 when it is not in it.
-    int listed_place() const;
     void step(int places);
 
     ComboBox& field_;

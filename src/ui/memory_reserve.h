@@ -1,0 +1,28 @@
+// Memory that is set aside for the moment when there is none left.
+#pragma once
+
+#include <memory>
+#include <new>
+
+namespace warhost {
+
+/// Freed when an allocation fails, so that the step that failed can run once more and the user can be told.
+class MemoryReserve {
+public:
+    MemoryReserve() noexcept { fill(); }
+
+    /// Sets the memory aside again, where there is enough.
+    void fill() noexcept
+    {
+        if (!block_) block_.reset(new (std::nothrow) char[size]);
+    }
+
+    void free() noexcept { block_.reset(); }
+
+private:
+    static constexpr std::size_t size = std::size_t{256} * 1024;
+
+    std::unique_ptr<char[]> block_;
+};
+
+} // namespace warhost

@@ -1,0 +1,199 @@
+// What a user does, done again and again while one allocation after another fails.
+#include "files/army_format.h"
+#include "ui/agreement.h"
+#include "ui/test_desktop.h"
+
+#include <cstdlib>
+#include <new>
+
+namespace {
+
+int allocations_left = -1;       // until one fails; negative: none does
+bool memory_stays_short = false; // all that follow fail, too
+
+} // namespace
+
+[[gnu::noinline]] void* operator new(std::size_t size)
+{
+    if (allocations_left > 0 && --allocations_left == 0) {
+        if (memory_stays_short) allocations_left = 1;
+        throw std::bad_alloc{};
+    }
+    if (void* const memory = std::malloc(size > 0 ? size : 1)) return memory;
+    throw std::bad_alloc{};
+}
+[[gnu::noinline]] void operator delete(void* memory) noexcept { std::free(memory); }
+[[gnu::noinline]] void operator delete(void* memory, std::size_t /*size*/) noexcept { std::free(memory); }
+
+namespace warhost {
+namespace {
+
+/// A battle between two armies whose texts all need memory of their own, with Side A's tab or another selected.
+struct Battle {
+    static constexpr char const* long_name = "An army whose name is longer than a small string";
+
+    TemporaryFolder folder;
+    TestDesktop desktop;
+    Generator random{11};
+    Main form{desktop, random};
+
+    explicit Battle(int tab)
+    {
+        folder.write("modif.txt", "A modifier with quite a long name\r\n101|1,3\r\nAmbush\r\n102|3,1\r\n");
+        desktop.directory = folder.path();
+        desktop.chosen = folder.path("x.Army");
+        desktop.typed = "40";
+        form.Form_Load();
+        Army loaded;
+        loaded.Name = "The army that the file holds, long enough";
+        loaded.UnitType[0] = "Riders out of the file, thirty";
+        loaded.UnitNum[0] = 30;
+        loaded.Opt[3] = -1;
+        loaded.OptValue[0] = 4;
+        loaded.Level = 3;
+        folder.write("x.Army", encode_army(loaded));
+        for (int const side : {2, 1}) {
+            form.TabStrip.choose(side);
+            form.txtArmyName.set_text(long_name);
+            form.txtUnitType(0).set_text("Spearmen of the northern marches");
+            form.txtUnitNum(0).set_text(plain_text(60 * side));
+        }
+        form.TabStrip.choose(tab);
+    }
+
+    std::string everything()
+    {
+        std::string text = texts(form.txtArmyName, form.cmbLevel, form.txtTotal, form.txtTotalNo, form.lblRatio,
+                                 form.lblRatioBonus, form.lblOtherLevel, form.lblLevelBonus, form.txtResult(0),
+                                 form.txtResult(1), form.lblWinner, form.lblWinBy, form.txtCasRollBonus,
+                                 form.txtLoserCasualty, form.lblLoserPercent, form.txtVictorCasRoll, form.lblCasRange,
+                                 form.txtVictorCasPercent, form.txtVictorCas, form.txtTotalMod(0), form.txtTotalMod(1));
+        for (auto* const boxes : {&form.txtUnitType, &form.txtUnitNum, &form.txtAName, &form.txtANum, &form.txtLoses})
+            for (auto const& [index, box] : *boxes) text += "/" + box.text();
+        for (auto* const boxes : {&form.cmbOpt, &form.cmbMisc})
+            for (auto const& [index, box] : *boxes) text += "/" + box.text() + plain_text(box.list_size());
+        for (auto const& [index, button] : form.opt) text += button.selected() ? "o" : ".";
+        for (auto const& [index, box] : form.chkMisc) text += box.bold() ? "x" : ".";
+        for (auto const* army : {&form.ArmyA, &form.ArmyB, &form.CurArmy}) text += encode_army(*army);
+        text += form.txtBattleResults.document() + form.txtVictorDesc.document() + plain_text(form.TabStrip.position());
+        return text + plain_text(static_cast<int>(random.next() * 1e6)) + (form.Updating ? " Updating" : "");
+    }
+};
+
+struct Action {
+    char const* name;
+    int tab;
+    bool reports;      // a step that fails is skipped and reported
+    std::string typed; // made before memory runs out: the caller's
+    void (*act)(Main&, std::string&&);
+};
+
+std::vector<Action> const actions{
+    // clang-format off
+    {"load", tab_side_b, true, {}, [](Main& form, std::string&&) { form.cmdLoadArmy.press(); }},
+    {"save", tab_side_a, true, {}, [](Main& form, std::string&&) { form.cmdSaveArmy.press(); }},
+    {"refuse", tab_combat, false, {}, [](Main& form, std::string&&) { form.mnuLoad_Click(); }},
+    {"name", tab_side_a, false, "Another name that needs memory of its own",
+        [](Main& form, std::string&& typed) { form.txtArmyName.set_text(std::move(typed)); }},
+    {"type", tab_side_b, false, "Archers, with arrows that were lent to them",
+        [](Main& form, std::string&& typed) { form.txtUnitType(3).set_text(std::move(typed)); }},
+    {"soldiers", tab_side_b, false, "12 men, and a long remark after the number",
+        [](Main& form, std::string&& typed) { form.txtUnitNum(7).set_text(std::move(typed)); }},
+    {"level", tab_side_a, false, "7                                         ",
+        [](Main& form, std::string&& typed) { form.cmbLevel.set_text(std::move(typed)); }},
+    {"option", tab_side_a, false, {}, [](Main& form, std::string&&) { form.opt(29).set_selected(true); }},
+    {"misc row", tab_side_a, false, {}, [](Main& form, std::string&&) { form.chkMisc(1).set_state(1); }},
+    {"tab", tab_side_a, false, {}, [](Main& form, std::string&&) { form.TabStrip.choose(tab_side_b); }},
+    {"roll", tab_combat, false, {}, [](Main& form, std::string&&) { form.cmdRollAll.press(); }},
+    {"result", tab_combat, false, "25, and whatever else may be typed in here",
+        [](Main& form, std::string&& typed) { form.txtResult(0).set_text(std::move(typed)); }},
+    {"percent", tab_combat, false, "100 percent, which is each of the soldiers",
+        [](Main& form, std::string&& typed) { form.txtLoserCasualty.set_text(std::move(typed)); }},
+    {"apply", tab_combat, false, {}, [](Main& form, std::string&&) { form.cmdApplyCasualties(1).press(); }},
+    {"simulate", tab_combat, false, {}, [](Main& form, std::string&&) { form.cmdSimulate.press(); }},
+    // clang-format on
+};
+
+/// Runs the action while its n-th allocation fails. Returns whether it made so many.
+bool run_short_of_memory(Battle& battle, Action const& action, int n, bool for_good)
+{
+    battle.desktop.boxes.clear();
+    std::string typed = action.typed;
+    memory_stays_short = for_good;
+    allocations_left = n;
+    EXPECT_NO_THROW(action.act(battle.form, std::move(typed)));
+    bool const struck = allocations_left == 0 || (for_good && allocations_left == 1);
+    allocations_left = -1;
+    return struck;
+}
+
+TEST(OutOfMemory, an_allocation_that_fails_changes_nothing_but_what_is_reported)
+{
+    for (auto const& action : actions) {
+        Battle unbroken{action.tab}, untouched{action.tab};
+        run_short_of_memory(unbroken, action, -1, false);
+        std::string const done = unbroken.everything(), undone = untouched.everything();
+        bool struck = true;
+        for (int n = 1; struck; ++n) {
+            SCOPED_TRACE(testing::Message() << action.name << ", allocation " << n);
+            Battle battle{action.tab};
+            struck = run_short_of_memory(battle, action, n, false);
+            std::string const state = battle.everything();
+            bool const refused = action.reports && battle.desktop.boxes.size() == 1;
+            EXPECT_TRUE(state == done || (refused && state == undone));
+            EXPECT_TRUE(refused || battle.desktop.boxes == unbroken.desktop.boxes);
+            EXPECT_EQ(battle.folder.names(), (std::set<std::string>{"modif.txt", "x.Army"}));
+            for (int const tab : {tab_side_b, tab_side_a}) {
+                battle.form.TabStrip.choose(tab);
+                check_agreement(battle.form);
+            }
+            ASSERT_LT(n, 1000);
+        }
+    }
+}
+
+TEST(OutOfMemory, that_lasts_leaves_nothing_that_the_next_tab_does_not_mend)
+{
+    for (auto const& action : actions) {
+        bool struck = true;
+        for (int n = 1; struck; ++n) {
+            SCOPED_TRACE(testing::Message() << action.name << ", from allocation " << n);
+            Battle battle{action.tab};
+            struck = run_short_of_memory(battle, action, n, true);
+            EXPECT_FALSE(battle.form.Updating);
+            for (int const tab : {tab_side_b, tab_side_a}) {
+                battle.form.TabStrip.choose(tab);
+                check_agreement(battle.form);
+                EXPECT_FALSE(battle.form.CurArmy.Name.empty());
+            }
+            EXPECT_EQ(battle.folder.names(), (std::set<std::string>{"modif.txt", "x.Army"}));
+            ASSERT_LT(n, 1000);
+        }
+    }
+}
+
+TEST(OutOfMemory, while_the_list_is_built_leaves_out_what_it_must)
+{
+    TemporaryFolder const folder;
+    folder.write("modif.txt", "A modifier with quite a long name\r\n101|1,3\r\nAmbush\r\n102|3,1\r\n");
+    for (bool const for_good : {false, true}) {
+        bool struck = true;
+        for (int n = 1; struck; ++n) {
+            SCOPED_TRACE(n);
+            TestDesktop desktop;
+            desktop.directory = folder.path();
+            ScriptedRandom random;
+            Main form{desktop, random};
+            memory_stays_short = for_good;
+            allocations_left = n;
+            EXPECT_NO_THROW(form.ReadMiscMod());
+            struck = allocations_left == 0 || (for_good && allocations_left == 1);
+            allocations_left = -1;
+            EXPECT_EQ(form.chkMisc.highest(), form.cmbMisc.highest());
+            EXPECT_TRUE(for_good || form.chkMisc.highest() == 2);
+        }
+    }
+}
+
+} // namespace
+} // namespace warhost
