@@ -11,14 +11,26 @@ constexpr int bar_steps = 1000;
 } // namespace
 
 ProgressDialog::ProgressDialog(QWidget* window, QString const& title, QString const& spoken)
-    : QDialog(window, Qt::CustomizeWindowHint | Qt::WindowTitleHint)
+    : QDialog(window, Qt::CustomizeWindowHint | Qt::WindowTitleHint),
+      window_(window)
 {
+    if (window != nullptr) {
+        focus_ = window->focusWidget();
+        window->setEnabled(false);
+        setEnabled(true); // a child window follows the one below it
+    }
     setWindowTitle(title);
     setWindowModality(Qt::ApplicationModal);
     bar_.setMinimumWidth(fontMetrics().averageCharWidth() * 50);
     bar_.setAccessibleName(spoken);
     column_.addWidget(&bar_);
     column_.addWidget(&text_);
+}
+
+ProgressDialog::~ProgressDialog()
+{
+    if (window_) window_->setEnabled(true);
+    if (focus_) focus_->setFocus(Qt::OtherFocusReason);
 }
 
 void ProgressDialog::show_share(double share, QString const& text)

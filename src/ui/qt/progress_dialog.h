@@ -3,16 +3,19 @@
 
 #include <QDialog>
 #include <QLabel>
+#include <QPointer>
 #include <QProgressBar>
 #include <QVBoxLayout>
 
 namespace warhost {
 
-/// Takes no input and closes when its owner says so, not by a key.
+/// Takes no input and closes when its owner says so, not by a key. The window below is disabled as long as the dialog
+/// exists: assistive technology would pass a dialog that is only modal.
 class ProgressDialog : public QDialog {
 public:
-    /// spoken: what the bar counts, for a screen reader.
+    /// window: the main window, or none. spoken: what the bar counts, for a screen reader.
     ProgressDialog(QWidget* window, QString const& title, QString const& spoken);
+    ~ProgressDialog() override;
 
     /// share: of the whole, 0 to 1; below 0 it is unknown. The window is shown and painted before this returns.
     void show_share(double share, QString const& text);
@@ -20,6 +23,8 @@ public:
     void reject() override {}
 
 private:
+    QPointer<QWidget> window_;
+    QPointer<QWidget> focus_; // in the window, to be given back
     QVBoxLayout column_{this};
     QProgressBar bar_{this};
     QLabel text_{this};

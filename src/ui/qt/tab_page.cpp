@@ -43,10 +43,7 @@ void TabPage::mousePressEvent(QMouseEvent* event)
     else event->ignore();
 }
 
-void TabPage::wheelEvent(QWheelEvent* event)
-{
-    if (tabAt(event->position().toPoint()) >= 0) QTabBar::wheelEvent(event);
-    else event->ignore();
-}
+/// A wheel that passes over the strip on its way elsewhere changes no tab.
+void TabPage::wheelEvent(QWheelEvent* event) { event->ignore(); }
 
 } // namespace warhost

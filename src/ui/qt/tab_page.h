@@ -6,7 +6,7 @@
 namespace warhost {
 
 /// The strip keeps its height whatever the widget's; the rest of the widget is the page's frame. Only the left button
-/// chooses a tab.
+/// chooses a tab; the wheel does not.
 class TabPage : public QTabBar {
 public:
     TabPage(int tab_height, QWidget* parent);

@@ -83,7 +83,9 @@ void Window::make_menus()
         for (std::size_t k = 0; k < items.size(); ++k) {
             QAction* const action = add(menu, items[k].name, items[k].caption);
             action->setShortcut(QKeySequence{to_qt(items[k].shortcut)});
-            connect(action, &QAction::triggered, this, [this, handler = handlers[k]] { handler(form_); });
+            connect(action, &QAction::triggered, this, [this, handler = handlers[k]] {
+                if (takes_input(*menuBar())) handler(form_);
+            });
         }
     };
     fill(*add_menu("mnuFile", "&File"), file_menu, file_handlers);
@@ -93,7 +95,9 @@ void Window::make_menus()
         QAction* const action =
             add(*links, "mnuWeb(" + std::to_string(link.index) + ")", separates ? std::string_view{} : link.caption);
         action->setSeparator(separates);
-        connect(action, &QAction::triggered, this, [this, index = link.index] { form_.mnuWeb_Click(index); });
+        connect(action, &QAction::triggered, this, [this, index = link.index] {
+            if (takes_input(*menuBar())) form_.mnuWeb_Click(index);
+        });
     }
     fill(*add_menu("mnuHelp", "&Help"), help_menu, help_handlers);
 }
@@ -200,6 +204,7 @@ void Window::follow_size()
 
 void Window::choose_tab(int position)
 {
+    if (!takes_input(*tabs_)) return place_tab_strip();
     form_.TabStrip.choose(position);
     focus_army_name();
 }

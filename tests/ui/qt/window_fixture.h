@@ -24,6 +24,8 @@ namespace warhost {
 
 class PlantedDesktop final : public QtDesktop {
 public:
+    explicit PlantedDesktop(std::string directory) : directory_(std::move(directory)) {}
+
     std::deque<Answer> answers; // the default answer when there is none
     std::optional<std::string> path;
     std::vector<std::string> titles; // of the messages shown
@@ -40,8 +42,11 @@ public:
     void show_report(MessageBox const& report, Tally const&) override { message_box(report); }
     std::string input_box(InputBox const& box) override { return box.default_text; }
     std::optional<std::string> file_dialog(FileDialog const&) override { return path; }
-    std::string program_directory() override { return WARHOST_DATA; }
+    std::string program_directory() override { return directory_; }
     void show_help(int number) override { topic = number; }
+
+private:
+    std::string directory_;
 };
 
 /// font_share: of the base font's size.
@@ -51,7 +56,10 @@ struct Screen {
     Main form{desktop, random};
     Window window;
 
-    explicit Screen(double font_share = 1) : window(form_with_font(font_share), desktop)
+    /// directory: the program's.
+    explicit Screen(double font_share = 1, std::string const& directory = WARHOST_DATA)
+        : desktop(directory),
+          window(form_with_font(font_share), desktop)
     {
         window.show();
         window.activateWindow();

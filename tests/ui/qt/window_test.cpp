@@ -8,10 +8,12 @@
 #include "ui/qt/text.h"
 #include "ui/qt/value_box.h"
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QThread>
 #include <QTimer>
+#include <QWheelEvent>
 
 #include <atomic>
 #include <clocale>
@@ -93,6 +95,57 @@ TEST(Window, a_value_box_gives_what_is_typed_or_chosen)
     EXPECT_EQ(screen.form.cmbOpt(5).text(), "fifty & more");
 }
 
+TEST(Window, the_wheel_changes_only_the_value_box_that_has_the_keyboard)
+{
+    Screen screen;
+    auto& box = screen.named<ValueBox>("cmbOpt(5)");
+    screen.form.opt(29).set_selected(true);
+    QWidget* const focus = screen.window.focusWidget();
+    auto const turn_over = [&](QWidget& at) {
+        QPoint const place{4, 4};
+        QWheelEvent turn{place, at.mapToGlobal(place), {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false};
+        QSpontaneKeyEvent::setSpontaneous(&turn); // as from a wheel: such a turn may move the focus
+        QCoreApplication::instance()->notify(&at, &turn);
+    };
+    for (QWidget* const at : {static_cast<QWidget*>(&box), static_cast<QWidget*>(box.lineEdit())}) turn_over(*at);
+    turn_over(screen.named<QTabBar>("TabStrip"));
+    EXPECT_EQ(screen.form.cmbOpt(5).text(), "+5");
+    EXPECT_EQ(screen.window.focusWidget(), focus);
+    EXPECT_EQ(screen.form.TabStrip.position(), 1);
+    box.setFocus();
+    turn_over(box);
+    EXPECT_EQ(screen.form.cmbOpt(5).text(), "+6");
+}
+
+TEST(Window, bounds_what_is_entered_and_shows_what_a_file_brings_whole)
+{
+    Screen screen;
+    auto& name = screen.named<QLineEdit>("txtArmyName");
+    auto& level = *screen.named<ValueBox>("cmbLevel").lineEdit();
+    std::string euros;
+    for (int k = 0; k < 65535; ++k) euros += "\u20AC"; // the longest text of a file
+    screen.form.txtArmyName.set_text(euros);
+    EXPECT_TRUE(name.text() == to_qt(euros) && screen.form.ArmyA.Name == euros);
+    for (QLineEdit* const box : {&name, &level}) {
+        box->clear();
+        box->insert(QString{100000, '1'});
+        EXPECT_EQ(box->text().size(), 65535);
+    }
+    EXPECT_EQ(screen.form.ArmyA.Name.size(), 65535U);
+}
+
+TEST(Window, a_list_may_hold_a_caption_of_any_length)
+{
+    TemporaryFolder const folder;
+    std::string const name = "The " + std::string(20000000, 'x');
+    folder.write("modif.txt", name + "\n1,3\n");
+    Screen screen{1, folder.path()};
+    auto& box = screen.named<QCheckBox>("chkMisc(1)");
+    EXPECT_TRUE(box.text().startsWith("The xxx") && box.text().endsWith(QChar{0x2026}) && box.text().size() < 100);
+    EXPECT_TRUE(box.toolTip().size() < 5000 && box.accessibleName().size() < 5000);
+    EXPECT_EQ(screen.form.chkMisc(1).caption(), name + " (+1 to +3)");
+}
+
 TEST(Window, option_buttons_follow_the_form)
 {
     Screen screen;
@@ -145,16 +198,54 @@ TEST(Window, tabs_swap_the_armies_and_the_menus_and_their_keys_save_and_load_the
     EXPECT_EQ(screen.desktop.titles.size(), 1U) << "refused while neither side is chosen";
 }
 
-TEST(Window, a_disk_that_keeps_the_user_waiting_is_told)
+/// What assistive technology can do to a window, whatever it shows.
+void act_from_the_side(Screen& screen)
+{
+    auto const interface = [](QObject& at) { return QAccessible::queryAccessibleInterface(&at); };
+    auto const press = QAccessibleActionInterface::pressAction();
+    interface(screen.named<QTabBar>("TabStrip"))->child(1)->actionInterface()->doAction(press);
+    interface(screen.named<QLineEdit>("txtArmyName"))->editableTextInterface()->insertText(0, "x");
+    interface(*screen.named<ValueBox>("cmbOpt(0)").lineEdit())->editableTextInterface()->insertText(0, "7");
+    for (char const* box : {"chkMisc(1)", "opt(1)", "cmdSaveArmy"})
+        interface(screen.named<QWidget>(box))->actionInterface()->doAction(press);
+    screen.trigger("mnuSave");
+    QCoreApplication::processEvents();
+}
+
+TEST(Window, takes_no_input_from_anywhere_while_it_waits_for_a_disk_or_an_answer)
 {
     Screen screen;
+    auto const untouched = [&] {
+        return screen.form.txtArmyName.text() + screen.form.cmbOpt(0).text() == "Elves+0" &&
+               screen.desktop.titles.empty() && screen.named<QTabBar>("TabStrip").currentIndex() == 0 &&
+               screen.form.TabStrip.position() == 1 && screen.form.chkMisc(1).state() == 0 &&
+               !screen.form.opt(1).selected();
+    };
+    screen.form.txtArmyName.set_text("Elves");
+    QWidget* const focus = screen.window.focusWidget();
     std::atomic<bool> told = false;
-    QTimer::singleShot(700, [&] { told = QApplication::activeModalWidget()->isVisible(); });
+    QTimer::singleShot(700, [&] {
+        EXPECT_TRUE(QApplication::activeModalWidget()->isVisible() && QApplication::activeModalWidget()->isEnabled());
+        EXPECT_FALSE(screen.window.isEnabled());
+        act_from_the_side(screen);
+        EXPECT_TRUE(untouched());
+        told = true;
+    });
     screen.desktop.wait_for([&] {
         for (int wait = 0; wait < 500 && !told; ++wait) QThread::msleep(10);
     });
     EXPECT_TRUE(told);
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    EXPECT_TRUE(screen.window.isEnabled() && screen.window.focusWidget() == focus);
+    QTimer::singleShot(0, [&] {
+        act_from_the_side(screen);
+        EXPECT_TRUE(untouched());
+        QApplication::activeModalWidget()->close();
+    });
+    screen.desktop.QtDesktop::message_box({.text = "A question"});
+    screen.desktop.path.reset();
+    act_from_the_side(screen);
+    EXPECT_FALSE(untouched()); // all that was in reach
     EXPECT_THROW(screen.desktop.wait_for([] { throw Failure{1, "slow"}; }), Failure);
 }
 
