@@ -7,6 +7,10 @@ source scripts/install.sh
 
 install_packages "${packages_build[@]}" "${packages_check[@]}"
 build fuzz
+# The files that the targets load and save; in memory where the system has such a folder.
+files=$(mktemp -d -p "$([ -w /dev/shm ] && echo /dev/shm || echo "${TMPDIR:-/tmp}")")
+trap 'rm -rf "$files"' EXIT
+export TMPDIR=$files
 for target in army modifier_list rich_text; do
     learnt=build/fuzz/learnt/$target
     mkdir -p "$learnt"
