@@ -5,9 +5,9 @@
 #include "ui/qt/text.h"
 #include "ui/qt/value_box.h"
 
-#include <QApplication>
 #include <QCheckBox>
 #include <QGroupBox>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -43,9 +43,8 @@ void bind_text(TextBox& field, QLineEdit& box)
 
 bool takes_input(QWidget const& widget)
 {
-    QWidget const* const modal = QApplication::activeModalWidget();
-    bool const is_blocked = modal != nullptr && modal != widget.window() && !modal->isAncestorOf(&widget);
-    return widget.isVisible() && widget.isEnabled() && !is_blocked;
+    // A dialog of the desktop's own is no widget, but it has a window.
+    return widget.isVisible() && widget.isEnabled() && QGuiApplication::modalWindow() == nullptr;
 }
 
 void name_after(Control const& field, QWidget& widget)

@@ -32,8 +32,8 @@ void bind(RichTextBox& field, QTextEdit& box);
 /// Characters that a user can enter into one box; no army file holds more in a text.
 inline constexpr int longest_text = 65535;
 
-/// Whether a user can act on the widget now: it is enabled, visible, and no modal dialog blocks its window. Assistive
-/// technology acts on any widget at any time; what it does to one that takes no input is undone.
+/// Whether a user can act on a widget of the main window now: it is enabled, visible, and no modal dialog is open.
+/// Assistive technology acts on any widget at any time; what it does to one that takes no input is undone.
 bool takes_input(QWidget const& widget);
 
 /// The part of it that every kind shares.

@@ -1,5 +1,7 @@
 #include "ui/qt/find_bar.h"
 
+#include "ui/qt/binding.h"
+
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -21,6 +23,7 @@ FindBar::FindBar(QTextEdit& page, QWidget* parent)
     text_->setObjectName("findText");
     text_->setAccessibleName("Text to find in the page");
     text_->setClearButtonEnabled(true);
+    text_->setMaxLength(longest_text);
     text_->setMaximumWidth(text_->fontMetrics().averageCharWidth() * 40);
     message_->setObjectName("findMessage");
     message_->setAccessibleName("Result of the search");
