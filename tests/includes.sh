@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Whether includes run one way: the screen knows the form, the form knows the rules, never back; and whether only the
-# two halves of replacing a file know the system.
+# Whether includes run one way: the screen knows the form, the form knows the rules, never back; and whether only files
+# named for a platform know the system.
 set -euo pipefail
 cd "$(dirname "$0")/../src"
 
@@ -16,5 +16,5 @@ only battle army
 only files army
 only ui army battle files
 ! grep -rE '^ *# *include <Q' --exclude-dir=qt . || faults=1
-! grep -rE '^ *# *include <(windows|unistd|fcntl|sys/)' --exclude='replace_file_*' --exclude-dir=qt . || faults=1
+! grep -rE '^ *# *include <(windows|unistd|fcntl|dirent|sys/)' --exclude='*_linux.*' --exclude='*_windows.*' --exclude-dir=qt . || faults=1
 exit $faults

@@ -1,69 +1,15 @@
-#include "files/replace_file.h"
+#include "files/system_file.h"
+
+#include "files/handle_windows.h"
+#include "files/temporary_name.h"
 
 #include <algorithm>
-#include <array>
-#include <system_error>
-#include <utility>
+#include <cstdint>
 #include <vector>
-#include <windows.h>
 
 namespace warhost {
 
 namespace {
-
-struct ErrorMeaning {
-    DWORD error;
-    std::errc meaning;
-};
-
-/// Where the library knows no meaning, or another than the user needs.
-constexpr std::array error_meanings{
-    ErrorMeaning{ERROR_INVALID_NAME, std::errc::invalid_argument},
-    ErrorMeaning{ERROR_NOT_READY, std::errc::no_such_device},
-    ErrorMeaning{ERROR_BAD_NETPATH, std::errc::no_such_device},
-    ErrorMeaning{ERROR_NETNAME_DELETED, std::errc::no_such_device},
-    ErrorMeaning{ERROR_WRITE_FAULT, std::errc::io_error},
-    ErrorMeaning{ERROR_GEN_FAILURE, std::errc::io_error},
-    ErrorMeaning{ERROR_CANT_RESOLVE_FILENAME, std::errc::too_many_symbolic_link_levels},
-};
-
-[[noreturn]] void fail(DWORD error)
-{
-    for (auto const& row : error_meanings) {
-        if (error == row.error) throw std::system_error{std::make_error_code(row.meaning)};
-    }
-    throw std::system_error{static_cast<int>(error), std::system_category()};
-}
-
-void require(bool succeeded)
-{
-    if (!succeeded) fail(::GetLastError());
-}
-
-class File {
-public:
-    File() = default;
-    File(File const&) = delete;
-    File& operator=(File const&) = delete;
-    ~File() { close(); }
-
-    bool open(std::filesystem::path const& path, DWORD access, DWORD sharing, DWORD disposition)
-    {
-        handle_ = ::CreateFileW(path.c_str(), access, sharing, nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
-        return handle_ != INVALID_HANDLE_VALUE;
-    }
-
-    void close()
-    {
-        auto* const open = std::exchange(handle_, INVALID_HANDLE_VALUE);
-        if (open != INVALID_HANDLE_VALUE) ::CloseHandle(open);
-    }
-
-    HANDLE handle() const { return handle_; }
-
-private:
-    HANDLE handle_ = INVALID_HANDLE_VALUE;
-};
 
 using Rights = std::vector<unsigned char>;
 
@@ -94,8 +40,8 @@ class NewFile {
 public:
     explicit NewFile(std::filesystem::path const& folder)
     {
-        for (int number = 0;; ++number) {
-            name_ = temporary_name(folder, number);
+        for (std::uint64_t number = 0;; ++number) {
+            name_ = folder / temporary_name(number);
             ::DeleteFileW(name_.c_str()); // left by a save that was killed: what is open stays
             if (file_.open(name_, GENERIC_WRITE | WRITE_DAC | DELETE, 0, CREATE_NEW)) break;
             require(::GetLastError() == ERROR_FILE_EXISTS);
@@ -148,24 +94,28 @@ private:
 
 } // namespace
 
-void replace_durably(std::filesystem::path const& target, std::string_view bytes)
+void replace_durably(std::filesystem::path const& path, std::string_view bytes)
 {
-    DWORD const attributes = ::GetFileAttributesW(target.c_str());
+    require_no_folder(path);
+    DWORD const attributes = ::GetFileAttributesW(path.c_str());
     bool const exists = attributes != INVALID_FILE_ATTRIBUTES;
-    auto place = target;
+    auto place = path;
     Rights rights;
     if (exists) {
         // What is marked read-only, or must not be written, or is in use, stays.
         if ((attributes & FILE_ATTRIBUTE_READONLY) != 0) fail(ERROR_ACCESS_DENIED);
         constexpr DWORD share_all = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
         File old; // a link that leads to nothing cannot be opened either, and stays
-        require(old.open(target, GENERIC_WRITE | DELETE, share_all, OPEN_EXISTING));
+        require(old.open(path, GENERIC_WRITE | DELETE, share_all, OPEN_EXISTING));
+        require_ordinary(old, path);
         rights = rights_of(old);
         if ((attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0) place = path_of(old);
     } else {
         require(::GetLastError() == ERROR_FILE_NOT_FOUND);
     }
-    NewFile file{place.parent_path()};
+    if (is_temporary_name(place.filename().native())) fail(ERROR_INVALID_NAME);
+    auto const folder = place.has_parent_path() ? place.parent_path() : std::filesystem::path{L"."};
+    NewFile file{folder};
     if (!rights.empty()) file.take_over_rights(rights);
     file.write(bytes);
     file.flush();

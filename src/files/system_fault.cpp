@@ -27,11 +27,18 @@ constexpr std::array system_faults{
     SystemFault{std::errc::too_many_symbolic_link_levels, Fault::link_loop},
     SystemFault{std::errc::text_file_busy, Fault::busy},
     SystemFault{std::errc::device_or_resource_busy, Fault::busy},
+    SystemFault{std::errc::resource_unavailable_try_again, Fault::busy},
     SystemFault{std::errc::io_error, Fault::device_error},
     SystemFault{std::errc::not_enough_memory, Fault::out_of_memory},
     SystemFault{std::errc::timed_out, Fault::not_available},
     SystemFault{std::errc::no_such_device, Fault::not_available},
     SystemFault{std::errc::no_such_device_or_address, Fault::not_available},
+    SystemFault{std::errc::no_link, Fault::connection_lost},
+    SystemFault{std::errc::not_connected, Fault::connection_lost},
+    SystemFault{std::errc::connection_aborted, Fault::connection_lost},
+    SystemFault{std::errc::connection_reset, Fault::connection_lost},
+    SystemFault{std::errc::host_unreachable, Fault::connection_lost},
+    SystemFault{std::errc::network_unreachable, Fault::connection_lost},
 };
 
 } // namespace

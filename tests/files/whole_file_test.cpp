@@ -8,6 +8,7 @@
 #ifdef _WIN32
 #include <windows.h>
 #else
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #endif
@@ -54,8 +55,19 @@ TEST_F(WholeFile, says_why_it_cannot_be_used_and_leaves_everything_as_it_was)
     auto const missing = path("missing"), inside = missing + "/x";
     EXPECT_EQ(caught(read_file, missing).text, "The file was not found: " + missing);
     EXPECT_EQ(caught(replace, inside).text, "The folder was not found: " + inside);
-    EXPECT_EQ(caught(replace, path(".warhost-7.tmp")).text, "The file name cannot be used: " + path(".warhost-7.tmp"));
+    auto const reserved = path(".warhost-7f.tmp");
+    EXPECT_EQ(caught(replace, reserved).text, "The file name cannot be used: " + reserved);
     EXPECT_EQ(read("file"), "whole");
+}
+
+TEST_F(WholeFile, is_read_up_to_64_MiB)
+{
+    auto const file = path("file");
+    write("file", "x");
+    fs::resize_file(file, std::size_t{64} << 20U);
+    EXPECT_EQ(read_file(file).size(), std::size_t{64} << 20U);
+    fs::resize_file(file, (std::size_t{64} << 20U) + 1);
+    EXPECT_EQ(caught(read_file, file).text, "The file is too large: " + file);
 }
 
 #ifdef _WIN32
@@ -107,6 +119,9 @@ TEST_F(WholeFile, that_cannot_be_replaced_stays)
 
 #else
 
+constexpr uid_t nobody = 65534;
+constexpr uid_t stranger = 1000;
+
 /// Takes the superuser's privileges away for a while: permissions mean nothing to him.
 class OrdinaryUser {
 public:
@@ -118,8 +133,30 @@ public:
     }
 
 private:
-    static constexpr uid_t nobody = 65534;
     bool privileged_;
+};
+
+/// Tests with files of several users, which only the superuser can make.
+struct SharedFile : WholeFile {
+    void SetUp() override
+    {
+        if (::geteuid() != 0) GTEST_SKIP() << "needs the superuser";
+    }
+    void give(std::string const& name, uid_t user, gid_t group, unsigned mode) const
+    {
+        EXPECT_EQ(::lchown(path(name).c_str(), user, group), 0);
+        EXPECT_TRUE(fs::is_symlink(path(name)) || ::chmod(path(name).c_str(), mode) == 0);
+    }
+    void make_folder(std::string const& name, uid_t user, unsigned mode) const
+    {
+        fs::create_directory(path(name));
+        give(name, user, 0, mode);
+    }
+    std::string saved_by_nobody(std::string const& name) const
+    {
+        OrdinaryUser const user;
+        return caught(replace, path(name)).text;
+    }
 };
 
 TEST_F(WholeFile, replaces_a_file_and_keeps_links_and_permissions)
@@ -159,6 +196,59 @@ TEST_F(WholeFile, respects_permissions)
     EXPECT_EQ(caught(replace, shut + "/new").text, "Permission denied: " + shut);
     EXPECT_EQ(names(), (std::set<std::string>{"file", "secret", "shut"}));
     EXPECT_EQ(read("file"), "whole");
+}
+
+TEST_F(WholeFile, stays_when_the_limit_on_file_sizes_is_reached)
+{
+    write("file", "whole");
+    rlimit old{};
+    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &old), 0);
+    rlimit const low{1000, old.rlim_max};
+    ::setrlimit(RLIMIT_FSIZE, &low);
+    Failure const failure = caught(replace, path("file")); // one byte more
+    ::setrlimit(RLIMIT_FSIZE, &old);
+    EXPECT_EQ(failure.text, "The file is too large: " + path("file"));
+    EXPECT_EQ(read("file"), "whole");
+}
+
+TEST_F(WholeFile, is_not_saved_into_a_folder_that_was_removed)
+{
+    auto const before = fs::current_path();
+    fs::create_directory(path("folder"));
+    fs::current_path(path("folder"));
+    fs::remove(path("folder"));
+    for (std::string const file : {"x.Army", "./x.Army", "../folder/x.Army"})
+        EXPECT_EQ(caught(replace, file).text, "The folder was not found: " + file);
+    fs::current_path(before);
+}
+
+TEST_F(SharedFile, is_not_replaced_through_a_link_that_another_user_placed)
+{
+    make_folder("own", nobody, 0700);
+    make_folder("shared", 0, 01777);
+    make_folder("open", 0, 0777);
+    struct {
+        std::string link, target;
+        uid_t owner;
+        bool followed;
+    } const cases[] = {
+        {"shared/mine", "../own/army", nobody, true},         {"shared/of_the_folder", "../own/army", 0, true},
+        {"open/theirs", "../own/army", stranger, true},       {"own/handed", "../own/army", stranger, true},
+        {"shared/theirs", "../own/army", stranger, false},    {"own/chain", "../shared/theirs", nobody, false},
+        {"shared/dangling", "../own/new", stranger, false},   {"own/dangling", "../shared/dangling", nobody, false},
+        {"shared/dangling_mine", "../own/new", nobody, true},
+    };
+    for (auto const& row : cases) {
+        SCOPED_TRACE(row.link);
+        fs::create_symlink(row.target, path(row.link));
+        give(row.link, row.owner, 0, 0);
+        write("own/army", "whole");
+        give("own/army", nobody, 0, 0600);
+        auto const refusal = "A symbolic link of another user is not followed here: " + path(row.link);
+        EXPECT_EQ(saved_by_nobody(row.link), row.followed ? "" : refusal);
+        bool const is_new = row.target == "../own/new";
+        EXPECT_EQ(read(is_new ? "own/new" : "own/army").size(), row.followed ? 1001U : is_new ? 0U : 5U);
+    }
 }
 
 #endif

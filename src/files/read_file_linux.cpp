@@ -1,0 +1,28 @@
+#include "files/system_file.h"
+
+#include "army/failure.h"
+#include "files/descriptor_linux.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace warhost {
+
+std::string read_ordinary_file(std::filesystem::path const& path, std::size_t most)
+{
+    auto const file = open_ordinary(path, O_RDONLY);
+    if (!file.is_open()) fail(ENOENT);
+    std::string bytes;
+    std::string block(std::size_t{64} * 1024, '\0');
+    while (bytes.size() <= most) {
+        ssize_t const count = uninterrupted([&] { return ::read(file.number(), block.data(), block.size()); });
+        // Some files of /proc look ordinary and make their readers wait.
+        if (count < 0 && errno == EAGAIN) throw failure_of(Fault::not_a_file, path.native());
+        require(count >= 0);
+        if (count == 0) return bytes;
+        bytes.append(block, 0, static_cast<std::size_t>(count));
+    }
+    fail(EFBIG);
+}
+
+} // namespace warhost

@@ -1,0 +1,25 @@
+#include "files/system_file.h"
+
+#include "files/handle_windows.h"
+
+namespace warhost {
+
+std::string read_ordinary_file(std::filesystem::path const& path, std::size_t most)
+{
+    require_no_folder(path);
+    File file;
+    constexpr DWORD share_all = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    require(file.open(path, GENERIC_READ, share_all, OPEN_EXISTING));
+    require_ordinary(file, path);
+    std::string bytes;
+    std::string block(std::size_t{64} * 1024, '\0');
+    while (bytes.size() <= most) {
+        DWORD count = 0;
+        require(::ReadFile(file.handle(), block.data(), static_cast<DWORD>(block.size()), &count, nullptr) != 0);
+        if (count == 0) return bytes;
+        bytes.append(block, 0, count);
+    }
+    fail(ERROR_FILE_TOO_LARGE);
+}
+
+} // namespace warhost

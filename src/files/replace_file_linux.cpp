@@ -1,0 +1,217 @@
+#include "files/system_file.h"
+
+#include "files/descriptor_linux.h"
+#include "files/place_linux.h"
+#include "files/temporary_name.h"
+
+#include <csignal>
+#include <fcntl.h>
+#include <string>
+#include <sys/file.h>
+#include <sys/xattr.h>
+#include <system_error>
+#include <unistd.h>
+
+namespace warhost {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// A lock that lasts until the descriptor is closed, by the system at the latest. Denied only when another save holds
+/// it: without lock support every attempt succeeds.
+bool lock(Descriptor const& file) { return ::flock(file.number(), LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK; }
+
+/// Removes the temporary file of a save of this user's that was killed: one that nobody has locked. False when what
+/// has the name must stay.
+bool remove_abandoned(Descriptor const& folder, fs::path const& name)
+{
+    constexpr int flags = O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
+    Descriptor const file{uninterrupted([&] { return ::openat(folder.number(), name.c_str(), flags); })};
+    if (!file.is_open()) return errno == ENOENT;
+    struct stat opened = {};
+    struct stat named = {};
+    // A name that still leads to the locked file is nobody's: its owner would have kept the lock until renaming it.
+    return ::flock(file.number(), LOCK_EX | LOCK_NB) == 0 && ::fstat(file.number(), &opened) == 0 &&
+           S_ISREG(opened.st_mode) && opened.st_uid == ::geteuid() &&
+           ::fstatat(folder.number(), name.c_str(), &named, AT_SYMLINK_NOFOLLOW) == 0 && same_file(named, opened) &&
+           ::unlinkat(folder.number(), name.c_str(), 0) == 0;
+}
+
+/// A new file beside the one to be replaced. Nameless, nothing of it stays behind whatever happens before it is put in
+/// place; but not every file system knows such files, and not every system lets them have a name afterwards.
+class NewFile {
+public:
+    explicit NewFile(Place const& place) : place_(place) {}
+    NewFile(NewFile const&) = delete;
+    NewFile& operator=(NewFile const&) = delete;
+    ~NewFile()
+    {
+        if (!name_.empty()) ::unlinkat(folder(), name_.c_str(), 0);
+    }
+
+    /// False where there are no nameless files, or no files at all.
+    bool open_nameless()
+    {
+        constexpr int flags = O_TMPFILE | O_WRONLY | O_CLOEXEC;
+        file_ = Descriptor{uninterrupted([&] { return ::openat(folder(), ".", flags, 0666); })};
+        return file_.is_open() && lock(file_);
+    }
+
+    void open_named()
+    {
+        bool const opened = find_name([&] { return create(); });
+        // It is the folder that a new file was not allowed in.
+        if (!opened && (errno == EACCES || errno == EROFS)) {
+            throw fs::filesystem_error{{}, place_.folder_path, {errno, std::generic_category()}};
+        }
+        require(opened);
+    }
+
+    /// The rights to the file to be replaced, as far as the system lets them be given; never more.
+    void take_over_rights(Descriptor const& replaced) const
+    {
+        constexpr char const* access_list = "system.posix_acl_access"; // what further users and groups may do
+        ::fremovexattr(file_.number(), access_list);                   // the folder may have given it one of its own
+        auto const own = status_of(file_);
+        auto const old = status_of(replaced);
+        constexpr auto unchanged = static_cast<uid_t>(-1);
+        std::string list(std::size_t{64} * 1024, '\0');
+        ssize_t const size = ::fgetxattr(replaced.number(), access_list, list.data(), list.size());
+        bool const same_group = own.st_gid == old.st_gid ||
+                                uninterrupted([&] { return ::fchown(file_.number(), unchanged, old.st_gid); }) == 0;
+        if (same_group && size > 0 && ::fsetxattr(file_.number(), access_list, list.data(), size, 0) == 0) return;
+        mode_t mode = old.st_mode & 07777U;
+        // Meant for another group, or not for the group alone.
+        if (!same_group || size > 0) mode &= ~static_cast<mode_t>(S_IRWXG);
+        if ((own.st_mode & 07777U) == mode) return;
+        bool const given = uninterrupted([&] { return ::fchmod(file_.number(), mode); }) == 0;
+        require(given || errno == EPERM || errno == ENOTSUP);
+    }
+
+    void write(std::string_view bytes) const
+    {
+        while (!bytes.empty()) {
+            ssize_t const count = uninterrupted([&] { return ::write(file_.number(), bytes.data(), bytes.size()); });
+            require(count >= 0);
+            bytes.remove_prefix(static_cast<std::size_t>(count));
+        }
+    }
+
+    void flush() const
+    {
+        require(uninterrupted([&] { return ::fsync(file_.number()); }) == 0);
+    }
+
+    /// False where a nameless file cannot have a name; nothing has happened then.
+    bool put_in_place()
+    {
+        if (name_.empty()) {
+            if (link_to(place_.name)) return true;
+            if (errno != EEXIST || !find_name([&] { return link_to(name_); })) return false;
+        }
+        require(::renameat(folder(), name_.c_str(), folder(), place_.name.c_str()) == 0);
+        name_.clear();
+        return true;
+    }
+
+private:
+    int folder() const { return place_.folder.number(); }
+
+    /// A locked file under name_; false, with errno, when there is none.
+    bool create()
+    {
+        constexpr int flags = O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC;
+        Descriptor file{uninterrupted([&] { return ::openat(folder(), name_.c_str(), flags, 0666); })};
+        if (!file.is_open()) return false;
+        bool const locked = lock(file);
+        struct stat status = {};
+        if (::fstat(file.number(), &status) != 0) {
+            int const cause = errno;
+            ::unlinkat(folder(), name_.c_str(), 0);
+            errno = cause;
+            return false;
+        }
+        if (!locked || status.st_nlink == 0) { // another save took it for abandoned before it was locked
+            errno = EEXIST;
+            return false;
+        }
+        file_ = std::move(file);
+        return true;
+    }
+
+    /// Puts one unused name after another into name_ until make succeeds; false, and no name, when it fails otherwise.
+    template <class Make> bool find_name(Make make)
+    {
+        constexpr unsigned most_names = 100;
+        int cause = EEXIST;
+        for (unsigned number = 0; number < most_names && cause == EEXIST; ++number) {
+            name_ = temporary_name(number);
+            if (make()) return true;
+            cause = errno;
+            if (cause != EEXIST || !remove_abandoned(place_.folder, name_)) continue;
+            if (make()) return true;
+            cause = errno;
+        }
+        name_.clear(); // it names no file of ours
+        errno = cause;
+        return false;
+    }
+
+    bool link_to(fs::path const& name) const
+    {
+        std::string const self = "/proc/self/fd/" + std::to_string(file_.number());
+        return ::linkat(AT_FDCWD, self.c_str(), folder(), name.c_str(), AT_SYMLINK_FOLLOW) == 0;
+    }
+
+    Place const& place_;
+    fs::path name_; // empty: none
+    Descriptor file_;
+};
+
+/// Makes a new name last through a power cut. The army is in place already, so that a folder which cannot be flushed
+/// is no failure.
+void flush_folder(Place const& place)
+{
+    constexpr int flags = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
+    Descriptor const folder{uninterrupted([&] { return ::openat(place.folder.number(), ".", flags); })};
+    if (folder.is_open()) uninterrupted([&] { return ::fsync(folder.number()); });
+}
+
+/// False when the path led to another file in the end than in the beginning; nothing has happened then.
+bool replaced(fs::path const& path, std::string_view bytes)
+{
+    Place const place = place_of(path);
+    if (is_temporary_name(place.name.native())) fail(EINVAL);
+    // Opened for writing, though never written: the system judges whether this user may, by the path as it was given.
+    auto const old = open_ordinary(path, O_WRONLY);
+    if (!holds(place, old)) return false;
+    remove_abandoned(place.folder, temporary_name(0));
+    for (bool const nameless : {true, false}) {
+        NewFile file{place};
+        if (nameless && !file.open_nameless()) continue;
+        if (!nameless) file.open_named();
+        if (old.is_open()) file.take_over_rights(old);
+        file.write(bytes);
+        file.flush();
+        if (!holds(place, old)) return false;
+        if (file.put_in_place()) break;
+    }
+    flush_folder(place);
+    return true;
+}
+
+} // namespace
+
+void replace_durably(fs::path const& path, std::string_view bytes)
+{
+    std::signal(SIGXFSZ, SIG_IGN); // a limit on the size of files must be reported, not end the program
+    // Another program may save the same file; one that does nothing else is not waited for.
+    constexpr int most_attempts = 100;
+    for (int attempt = 0; attempt < most_attempts; ++attempt) {
+        if (replaced(path, bytes)) return;
+    }
+    fail(EBUSY);
+}
+
+} // namespace warhost
