@@ -1,13 +1,17 @@
 #include "files/system_file.h"
 
 #include "files/descriptor_linux.h"
+#include "files/leftovers_linux.h"
 #include "files/place_linux.h"
 #include "files/temporary_name.h"
 
+#include <chrono>
 #include <csignal>
+#include <cstdint>
 #include <fcntl.h>
 #include <string>
 #include <sys/file.h>
+#include <sys/random.h>
 #include <sys/xattr.h>
 #include <system_error>
 #include <unistd.h>
@@ -22,20 +26,11 @@ namespace fs = std::filesystem;
 /// it: without lock support every attempt succeeds.
 bool lock(Descriptor const& file) { return ::flock(file.number(), LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK; }
 
-/// Removes the temporary file of a save of this user's that was killed: one that nobody has locked. False when what
-/// has the name must stay.
-bool remove_abandoned(Descriptor const& folder, fs::path const& name)
+std::uint64_t random_number()
 {
-    constexpr int flags = O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
-    Descriptor const file{uninterrupted([&] { return ::openat(folder.number(), name.c_str(), flags); })};
-    if (!file.is_open()) return errno == ENOENT;
-    struct stat opened = {};
-    struct stat named = {};
-    // A name that still leads to the locked file is nobody's: its owner would have kept the lock until renaming it.
-    return ::flock(file.number(), LOCK_EX | LOCK_NB) == 0 && ::fstat(file.number(), &opened) == 0 &&
-           S_ISREG(opened.st_mode) && opened.st_uid == ::geteuid() &&
-           ::fstatat(folder.number(), name.c_str(), &named, AT_SYMLINK_NOFOLLOW) == 0 && same_file(named, opened) &&
-           ::unlinkat(folder.number(), name.c_str(), 0) == 0;
+    std::uint64_t number = 0;
+    if (::getrandom(&number, sizeof number, 0) == sizeof number) return number;
+    return static_cast<std::uint64_t>(std::chrono::steady_clock::now().time_since_epoch().count());
 }
 
 /// A new file beside the one to be replaced. Nameless, nothing of it stays behind whatever happens before it is put in
@@ -140,19 +135,17 @@ private:
         return true;
     }
 
-    /// Puts one unused name after another into name_ until make succeeds; false, and no name, when it fails otherwise.
+    /// Puts one random name after another into name_ until make succeeds; false, and no name, when it fails for another
+    /// reason than that the name is taken.
     template <class Make> bool find_name(Make make)
     {
-        constexpr unsigned most_names = 100;
-        int cause = EEXIST;
-        for (unsigned number = 0; number < most_names && cause == EEXIST; ++number) {
-            name_ = temporary_name(number);
+        constexpr int most_names = 1000; // no folder has so many of these: its system calls every name taken
+        for (int names = 0; names < most_names; ++names) {
+            name_ = temporary_name(random_number());
             if (make()) return true;
-            cause = errno;
-            if (cause != EEXIST || !remove_abandoned(place_.folder, name_)) continue;
-            if (make()) return true;
-            cause = errno;
+            if (errno != EEXIST) break;
         }
+        int const cause = errno;
         name_.clear(); // it names no file of ours
         errno = cause;
         return false;
@@ -186,7 +179,7 @@ bool replaced(fs::path const& path, std::string_view bytes)
     // Opened for writing, though never written: the system judges whether this user may, by the path as it was given.
     auto const old = open_ordinary(path, O_WRONLY);
     if (!holds(place, old)) return false;
-    remove_abandoned(place.folder, temporary_name(0));
+    remove_leftovers(place.folder);
     for (bool const nameless : {true, false}) {
         NewFile file{place};
         if (nameless && !file.open_nameless()) continue;

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <random>
 #include <vector>
 
 namespace warhost {
@@ -35,17 +36,30 @@ std::filesystem::path path_of(File const& file)
     return path;
 }
 
+/// Removes what killed saves left in the folder, as far as that is quick and this user may. What a save has open stays.
+void remove_leftovers(std::filesystem::path const& folder)
+{
+    constexpr ULONGLONG longest_search = 300; // milliseconds
+    auto const end = ::GetTickCount64() + longest_search;
+    WIN32_FIND_DATAW found{};
+    auto* const search = ::FindFirstFileW((folder / L".warhost-*").c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE) return;
+    do {
+        constexpr DWORD not_ours = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_REPARSE_POINT;
+        auto const* const name = static_cast<wchar_t const*>(found.cFileName);
+        if ((found.dwFileAttributes & not_ours) == 0 && is_temporary_name(name)) ::DeleteFileW((folder / name).c_str());
+    } while (::GetTickCount64() <= end && ::FindNextFileW(search, &found) != 0);
+    ::FindClose(search);
+}
+
 /// A new file in a folder, deleted unless it is put in place.
 class NewFile {
 public:
     explicit NewFile(std::filesystem::path const& folder)
     {
-        for (std::uint64_t number = 0;; ++number) {
-            name_ = folder / temporary_name(number);
-            ::DeleteFileW(name_.c_str()); // left by a save that was killed: what is open stays
-            if (file_.open(name_, GENERIC_WRITE | WRITE_DAC | DELETE, 0, CREATE_NEW)) break;
-            require(::GetLastError() == ERROR_FILE_EXISTS);
-        }
+        std::random_device random;
+        do name_ = folder / temporary_name(std::uint64_t{random()} << 32U | random());
+        while (!file_.open(name_, GENERIC_WRITE | WRITE_DAC | DELETE, 0, CREATE_NEW) && taken());
     }
     NewFile(NewFile const&) = delete;
     NewFile& operator=(NewFile const&) = delete;
@@ -88,6 +102,13 @@ public:
     }
 
 private:
+    /// Whether creating the file failed for no other reason than its name.
+    static bool taken()
+    {
+        require(::GetLastError() == ERROR_FILE_EXISTS);
+        return true;
+    }
+
     std::filesystem::path name_;
     File file_;
 };
@@ -115,6 +136,7 @@ void replace_durably(std::filesystem::path const& path, std::string_view bytes)
     }
     if (is_temporary_name(place.filename().native())) fail(ERROR_INVALID_NAME);
     auto const folder = place.has_parent_path() ? place.parent_path() : std::filesystem::path{L"."};
+    remove_leftovers(folder);
     NewFile file{folder};
     if (!rights.empty()) file.take_over_rights(rights);
     file.write(bytes);

@@ -85,7 +85,6 @@ extern "C" {
 UNDER_FIRE(close, (int file), (file), false, ended)
 UNDER_FIRE(fchmod, (int file, mode_t mode), (file, mode), true, ended)
 UNDER_FIRE(fchown, (int file, uid_t user, gid_t group), (file, user, group), true, ended)
-UNDER_FIRE(flock, (int file, int operation), (file, operation), false, ended)
 UNDER_FIRE(fstat, (int file, struct stat* status), (file, status), false, ended)
 UNDER_FIRE(fstatat, (int in, char const* path, struct stat* status, int flags), (in, path, status, flags), false, ended)
 UNDER_FIRE(linkat, (int from, char const* file, int to, char const* path, int flags), (from, file, to, path, flags),
@@ -93,6 +92,14 @@ UNDER_FIRE(linkat, (int from, char const* file, int to, char const* path, int fl
 UNDER_FIRE(renameat, (int from, char const* file, int to, char const* path), (from, file, to, path), false, named)
 UNDER_FIRE(stat, (char const* path, struct stat* status), (path, status), false, ended)
 UNDER_FIRE(unlinkat, (int folder, char const* path, int flags), (folder, path, flags), false, ended)
+
+int __real_flock(int file, int operation);
+int __wrap_flock(int file, int operation)
+{
+    // As on a network file system, where an exclusive lock needs a file that may be written.
+    if ((::fcntl(file, F_GETFL) & O_ACCMODE) == O_RDONLY) return fails_always(EBADF) ? -1 : 0;
+    return struck() ? -1 : ended(__real_flock(file, operation));
+}
 
 int __wrap_fsync(int file) // hundreds of saves need no disk
 {

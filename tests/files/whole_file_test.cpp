@@ -8,6 +8,8 @@
 #ifdef _WIN32
 #include <windows.h>
 #else
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -68,6 +70,18 @@ TEST_F(WholeFile, is_read_up_to_64_MiB)
     EXPECT_EQ(read_file(file).size(), std::size_t{64} << 20U);
     fs::resize_file(file, (std::size_t{64} << 20U) + 1);
     EXPECT_EQ(caught(read_file, file).text, "The file is too large: " + file);
+}
+
+TEST_F(WholeFile, clears_what_killed_saves_left_and_nothing_else)
+{
+    for (char const* name : {".warhost-0.tmp", ".warhost-00ffa81c2b3d4e5f.tmp"}) write(name, "half");
+    std::set<std::string> others{".warhost-.tmp", ".warhost-notes.tmp", ".warhost-1.tmp.bak",
+                                 ".warhost-00ffa81c2b3d4e5f6.tmp", "warhost-1.tmp"};
+    for (auto const& name : others) write(name, "whole");
+    fs::create_directory(path(".warhost-d.tmp"));
+    others.insert({".warhost-d.tmp", "file"});
+    replace(path("file"));
+    EXPECT_EQ(names(), others);
 }
 
 #ifdef _WIN32
@@ -249,6 +263,32 @@ TEST_F(SharedFile, is_not_replaced_through_a_link_that_another_user_placed)
         bool const is_new = row.target == "../own/new";
         EXPECT_EQ(read(is_new ? "own/new" : "own/army").size(), row.followed ? 1001U : is_new ? 0U : 5U);
     }
+}
+
+TEST_F(SharedFile, leaves_the_temporary_files_of_others_and_those_in_use)
+{
+    make_folder("shared", 0, 0777);
+    auto const make = [&](int number, uid_t owner) {
+        auto const name = "shared/.warhost-" + std::to_string(number) + ".tmp";
+        write(name, "half");
+        give(name, owner, 0, 0666);
+        return path(name);
+    };
+    constexpr int foreign = 300;
+    for (int number = 0; number < foreign; ++number) make(number, stranger);
+    make(foreign, nobody); // the only one to go
+    auto const linked = make(foreign + 1, nobody), busy = make(foreign + 2, nobody),
+               pipe = path("shared/.warhost-a.tmp");
+    fs::create_hard_link(linked, path("shared/army"));
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0666), 0);
+    ASSERT_EQ(::lchown(pipe.c_str(), nobody, 0), 0);
+    int const other_save = ::open(busy.c_str(), O_WRONLY);
+    ASSERT_EQ(::flock(other_save, LOCK_EX), 0);
+    for (int save = 0; save < 2; ++save) EXPECT_EQ(saved_by_nobody("shared/x.Army"), ""); // the second needs a name
+    ::close(other_save);
+    auto const left = std::distance(fs::directory_iterator{path("shared")}, fs::directory_iterator{});
+    EXPECT_EQ(left, foreign + 5); // linked, its second name, busy, the pipe, the army
+    EXPECT_FALSE(fs::exists(path("shared/.warhost-300.tmp")));
 }
 
 #endif
