@@ -37,7 +37,7 @@ std::uint64_t random_number()
 /// place; but not every file system knows such files, and not every system lets them have a name afterwards.
 class NewFile {
 public:
-    explicit NewFile(Place const& place) : place_(place) {}
+    NewFile(Place const& place, mode_t mode) : place_(place), mode_(mode) {}
     NewFile(NewFile const&) = delete;
     NewFile& operator=(NewFile const&) = delete;
     ~NewFile()
@@ -49,7 +49,7 @@ public:
     bool open_nameless()
     {
         constexpr int flags = O_TMPFILE | O_WRONLY | O_CLOEXEC;
-        file_ = Descriptor{uninterrupted([&] { return ::openat(folder(), ".", flags, 0666); })};
+        file_ = Descriptor{uninterrupted([&] { return ::openat(folder(), ".", flags, mode_); })};
         return file_.is_open() && lock(file_);
     }
 
@@ -63,25 +63,41 @@ public:
         require(opened);
     }
 
-    /// The rights to the file to be replaced, as far as the system lets them be given; never more.
+    /// The owner and the rights of the file to be replaced, as far as the system lets them be given; never more rights,
+    /// not even for a moment. They go from the owner to the mode, because a change of owner clears the set-id bits.
     void take_over_rights(Descriptor const& replaced) const
     {
         constexpr char const* access_list = "system.posix_acl_access"; // what further users and groups may do
-        ::fremovexattr(file_.number(), access_list);                   // the folder may have given it one of its own
-        auto const own = status_of(file_);
+        auto const has_none = [](auto result) { return result < 0 && (errno == ENODATA || errno == ENOTSUP); };
+        int const removed = ::fremovexattr(file_.number(), access_list); // the folder may have given it one of its own
+        bool const is_free = removed == 0 || has_none(removed);
         auto const old = status_of(replaced);
-        constexpr auto unchanged = static_cast<uid_t>(-1);
+        auto own = status_of(file_);
+        if (own.st_uid != old.st_uid || own.st_gid != old.st_gid) {
+            // Only the privileged may give a file away; the group may be any that the user is a member of.
+            constexpr auto unchanged = static_cast<uid_t>(-1);
+            auto const give = [&](uid_t owner) {
+                return uninterrupted([&] { return ::fchown(file_.number(), owner, old.st_gid); }) == 0;
+            };
+            if (!give(old.st_uid)) give(unchanged);
+            own = status_of(file_);
+        }
+        bool const same_owner = own.st_uid == old.st_uid;
+        bool const same_group = own.st_gid == old.st_gid;
+
         std::string list(std::size_t{64} * 1024, '\0');
         ssize_t const size = ::fgetxattr(replaced.number(), access_list, list.data(), list.size());
-        bool const same_group = own.st_gid == old.st_gid ||
-                                uninterrupted([&] { return ::fchown(file_.number(), unchanged, old.st_gid); }) == 0;
-        if (same_group && size > 0 && ::fsetxattr(file_.number(), access_list, list.data(), size, 0) == 0) return;
+        bool const no_list = is_free && has_none(size); // any other error may hide a list
+        bool const same_list =
+            no_list || (size > 0 && same_group && ::fsetxattr(file_.number(), access_list, list.data(), size, 0) == 0);
+
         mode_t mode = old.st_mode & 07777U;
-        // Meant for another group, or not for the group alone.
-        if (!same_group || size > 0) mode &= ~static_cast<mode_t>(S_IRWXG);
-        if ((own.st_mode & 07777U) == mode) return;
+        if (!same_owner || !same_group) mode &= 0777U;
+        // Members of the old group now count as others.
+        if (!same_group) mode &= S_IRWXU | (S_IRWXO & mode >> 3U);
+        if (!same_list) mode &= ~static_cast<mode_t>(S_IRWXG | S_IRWXO);
         bool const given = uninterrupted([&] { return ::fchmod(file_.number(), mode); }) == 0;
-        require(given || errno == EPERM || errno == ENOTSUP);
+        require(given || errno == EPERM || errno == ENOTSUP || errno == ENOSYS);
     }
 
     void write(std::string_view bytes) const
@@ -117,7 +133,7 @@ private:
     bool create()
     {
         constexpr int flags = O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC;
-        Descriptor file{uninterrupted([&] { return ::openat(folder(), name_.c_str(), flags, 0666); })};
+        Descriptor file{uninterrupted([&] { return ::openat(folder(), name_.c_str(), flags, mode_); })};
         if (!file.is_open()) return false;
         bool const locked = lock(file);
         struct stat status = {};
@@ -158,6 +174,7 @@ private:
     }
 
     Place const& place_;
+    mode_t mode_;
     fs::path name_; // empty: none
     Descriptor file_;
 };
@@ -181,7 +198,7 @@ bool replaced(fs::path const& path, std::string_view bytes)
     if (!holds(place, old)) return false;
     remove_leftovers(place.folder);
     for (bool const nameless : {true, false}) {
-        NewFile file{place};
+        NewFile file{place, old.is_open() ? mode_t{0600} : mode_t{0666}};
         if (nameless && !file.open_nameless()) continue;
         if (!nameless) file.open_named();
         if (old.is_open()) file.take_over_rights(old);

@@ -14,7 +14,7 @@ namespace warhost {
 /// pipe, a device or another process; does not change the file.
 std::string read_ordinary_file(std::filesystem::path const& path, std::size_t most);
 
-/// Writes bytes to a temporary file beside the file that path leads to, gives it that file's permissions if
+/// Writes bytes to a temporary file beside the file that path leads to, gives it that file's owner and permissions if
 /// it exists, flushes it to the disk and renames it over that file. Refuses what the system would not let this user
 /// write, and a symbolic link that another user placed in a shared folder. After a failure the old file is as it was
 /// and the temporary one gone. A process that is killed may leave its temporary file, which a later save into the

@@ -25,7 +25,7 @@ struct Fire {
     bool knows_nameless_files = true;
     int error = EIO;
     char const* text = "The disk or network reported an error: ";
-    int read_error = 0; // of every call that reads; 0: none
+    int read_error = 0, list_error = 0; // of every such call; 0: none
     int calls = 0;
     bool failed = false;
     mode_t created = 0;                        // with these rights
@@ -101,6 +101,13 @@ int __wrap_flock(int file, int operation)
     return struck() ? -1 : ended(__real_flock(file, operation));
 }
 
+ssize_t __real_fgetxattr(int file, char const* name, void* value, size_t size);
+ssize_t __wrap_fgetxattr(int file, char const* name, void* value, size_t size)
+{
+    if (fire != nullptr && fails_always(fire->list_error)) return -1;
+    return struck() ? -1 : ended(__real_fgetxattr(file, name, value, size));
+}
+
 int __wrap_fsync(int file) // hundreds of saves need no disk
 {
     if (struck(true)) return -1;
@@ -122,6 +129,7 @@ int __wrap_openat(int folder, char const* path, int flags, mode_t mode)
 {
     bool const unknown = fire != nullptr && !fire->knows_nameless_files && (flags & O_TMPFILE) == O_TMPFILE;
     if (unknown) return fails_always(EOPNOTSUPP) ? -1 : 0;
+    if (fire != nullptr && (flags & (O_CREAT | O_TMPFILE) & ~O_DIRECTORY) != 0) fire->created |= mode;
     return struck(true) ? -1 : ended(__real_openat(folder, path, flags, mode));
 }
 
@@ -233,6 +241,27 @@ TEST(SaveUnderFire, replaces_the_file_that_was_judged_when_a_link_changes_meanwh
     EXPECT_EQ(caught(replace_file, link, "new").text, "");
     fire = nullptr;
     EXPECT_EQ(folder.read("one") + " " + folder.read("two"), "old new");
+}
+
+TEST(SaveUnderFire, takes_rights_away_when_the_access_list_cannot_be_read)
+{
+    TemporaryFolder const folder;
+    auto const file = folder.path("x.Army");
+    for (auto const& [error, mode] : {std::pair{ENODATA, 0644U},
+                                      {ENOTSUP, 0644U},
+                                      {E2BIG, 0600U},
+                                      {ERANGE, 0600U},
+                                      {EACCES, 0600U},
+                                      {EIO, 0600U}}) {
+        folder.write("x.Army", "old");
+        std::filesystem::permissions(file, std::filesystem::perms{0644});
+        Fire no_list{.blow = Blow::cut_short, .at = 0, .list_error = error};
+        fire = &no_list;
+        EXPECT_EQ(caught(replace_file, file, "new").text, "");
+        fire = nullptr;
+        EXPECT_EQ(std::filesystem::status(file).permissions(), std::filesystem::perms{mode}) << error;
+        EXPECT_EQ(no_list.created, 0600U); // nobody may open it before it has its own rights
+    }
 }
 
 TEST(LoadUnderFire, is_whole_or_refused)

@@ -171,6 +171,14 @@ struct SharedFile : WholeFile {
         OrdinaryUser const user;
         return caught(replace, path(name)).text;
     }
+    /// "owner:group mode" of a file.
+    std::string rights(std::string const& name) const
+    {
+        struct stat status = {};
+        EXPECT_EQ(::stat(path(name).c_str(), &status), 0);
+        return std::to_string(status.st_uid) + ":" + std::to_string(status.st_gid) + " " +
+               (testing::Message() << std::oct << (status.st_mode & 07777U)).GetString();
+    }
 };
 
 TEST_F(WholeFile, replaces_a_file_and_keeps_links_and_permissions)
@@ -262,6 +270,35 @@ TEST_F(SharedFile, is_not_replaced_through_a_link_that_another_user_placed)
         EXPECT_EQ(saved_by_nobody(row.link), row.followed ? "" : refusal);
         bool const is_new = row.target == "../own/new";
         EXPECT_EQ(read(is_new ? "own/new" : "own/army").size(), row.followed ? 1001U : is_new ? 0U : 5U);
+    }
+}
+
+TEST_F(SharedFile, keeps_its_owner_and_its_rights_where_they_can_be_given)
+{
+    struct {
+        uid_t saver, owner;
+        gid_t group;
+        unsigned mode;
+        char const* saved;
+    } const cases[] = {
+        // clang-format off
+        {0, stranger, 4242, 0640, "1000:4242 640"}, {0, stranger, 0, 0600, "1000:0 600"},
+        {0, stranger, 4242, 06775, "1000:4242 6775"}, {0, 0, 4242, 0664, "0:4242 664"},
+        {nobody, nobody, 0, 0664, "65534:0 664"},
+        {nobody, nobody, 4242, 0664, "65534:0 604"}, // no member: what the group might do, the new group must not
+        {nobody, nobody, 4242, 0606, "65534:0 600"}, // and the old group must not what all others might
+        {nobody, stranger, 0, 02660, "65534:0 660"}, {nobody, stranger, 4242, 04666, "65534:0 606"},
+        // clang-format on
+    };
+    make_folder("folder", nobody, 0700);
+    for (auto const& row : cases) {
+        write("folder/file", "whole");
+        give("folder/file", row.owner, row.group, row.mode);
+        auto const failure =
+            row.saver == nobody ? saved_by_nobody("folder/file") : caught(replace, path("folder/file")).text;
+        EXPECT_EQ(failure, "");
+        EXPECT_EQ(rights("folder/file"), row.saved) << row.owner << ":" << row.group << " " << std::oct << row.mode;
+        fs::remove(path("folder/file"));
     }
 }
 
