@@ -9,15 +9,25 @@ namespace warhost {
 
 namespace {
 
-constexpr char const* file_extension = ".Army";
+constexpr std::string_view file_extension = ".Army";
 constexpr char const* file_filter = "Warhost Army Files (*.Army)|*.Army|All Files|*.*";
+
+/// In bytes of UTF-8. Usual file systems take 255 bytes or 255 UTF-16 units, which are never more than the bytes.
+constexpr std::size_t longest_file_name = 255;
 
 std::string proposed_file_name(std::string name)
 {
     constexpr std::string_view not_in_names = "\\/:*?\"<>|.";
+    constexpr std::size_t room = longest_file_name - file_extension.size();
+    auto const inside_character = [&](std::size_t place) { return (name[place] & 0xC0) == 0x80; };
+    if (name.size() > room) {
+        std::size_t end = room;
+        while (end > 0 && inside_character(end)) --end;
+        name.resize(end);
+    }
     std::replace_if(
         name.begin(), name.end(), [&](char c) { return not_in_names.find(c) != std::string_view::npos; }, '_');
-    return name + file_extension;
+    return name.append(file_extension);
 }
 
 } // namespace
@@ -40,7 +50,7 @@ void Main::cmdLoadArmy_Click()
         KeptTab const kept{*this};
         path = desktop_.file_dialog({.kind = FileDialogKind::open,
                                      .title = "Load Warhost Army File",
-                                     .default_extension = file_extension,
+                                     .default_extension = std::string{file_extension},
                                      .filter = file_filter,
                                      .file_name = {},
                                      .file_must_exist = true,
@@ -70,7 +80,7 @@ void Main::cmdSaveArmy_Click()
         KeptTab const kept{*this};
         path = desktop_.file_dialog({.kind = FileDialogKind::save,
                                      .title = "Save Warhost Army File",
-                                     .default_extension = file_extension,
+                                     .default_extension = std::string{file_extension},
                                      .filter = file_filter,
                                      .file_name = proposed_file_name(CurArmy.Name),
                                      .folder_must_exist = true,
