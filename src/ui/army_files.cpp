@@ -54,8 +54,7 @@ void Main::cmdLoadArmy_Click()
                                      .filter = file_filter,
                                      .file_name = {},
                                      .file_must_exist = true,
-                                     .folder_must_exist = true,
-                                     .hide_read_only = true});
+                                     .folder_must_exist = true});
         if (!path) return;
         bool exists = false;
         desktop_.wait_for([&] { exists = FileExists(*path); });
@@ -84,7 +83,6 @@ void Main::cmdSaveArmy_Click()
                                      .filter = file_filter,
                                      .file_name = proposed_file_name(CurArmy.Name),
                                      .folder_must_exist = true,
-                                     .hide_read_only = true,
                                      .overwrite_prompt = true});
     });
     if (path) {

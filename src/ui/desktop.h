@@ -41,7 +41,6 @@ struct FileDialog {
     std::string file_name;
     bool file_must_exist = false;
     bool folder_must_exist = false;
-    bool hide_read_only = false;
     bool overwrite_prompt = false;
 };
 

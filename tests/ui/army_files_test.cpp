@@ -34,12 +34,11 @@ TEST_F(ArmyFiles, are_asked_for_on_the_army_tabs)
     for (auto const& [name, proposed] : names) {
         form.txtArmyName.set_text(name);
         form.mnuSave_Click();
-        EXPECT_EQ(desktop.requests.back(), "save|Save Warhost Army File|" + filter + proposed +
-                                               " folder-must-exist no-read-only ask-before-overwriting");
+        EXPECT_EQ(desktop.requests.back(),
+                  "save|Save Warhost Army File|" + filter + proposed + " folder-must-exist ask-before-overwriting");
     }
     form.mnuLoad_Click();
-    EXPECT_EQ(desktop.requests.back(),
-              "open|Load Warhost Army File|" + filter + " file-must-exist folder-must-exist no-read-only");
+    EXPECT_EQ(desktop.requests.back(), "open|Load Warhost Army File|" + filter + " file-must-exist folder-must-exist");
     EXPECT_TRUE(desktop.boxes.empty()); // a cancel says nothing
     desktop.requests.clear();
     form.TabStrip.choose(3);

@@ -65,7 +65,6 @@ public:
                          dialog.default_extension + "|" + dialog.filter + "|" + dialog.file_name +
                          (dialog.file_must_exist ? " file-must-exist" : "") +
                          (dialog.folder_must_exist ? " folder-must-exist" : "") +
-                         (dialog.hide_read_only ? " no-read-only" : "") +
                          (dialog.overwrite_prompt ? " ask-before-overwriting" : ""),
                      chosen);
     }
