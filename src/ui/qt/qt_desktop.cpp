@@ -1,22 +1,21 @@
 #include "ui/qt/qt_desktop.h"
 
+#include "ui/qt/answer_box.h"
 #include "ui/qt/progress_dialog.h"
 #include "ui/qt/report_box.h"
 #include "ui/qt/text.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QLocale>
-#include <QMessageBox>
 #include <QStandardPaths>
 #include <QStringList>
 #include <QUrl>
 
-#include <array>
 #include <chrono>
 #include <cstdlib>
 #include <future>
@@ -25,37 +24,6 @@
 namespace warhost {
 
 namespace {
-
-struct AnswerButton {
-    Answer answer;
-    QMessageBox::StandardButton button;
-};
-
-constexpr std::array answer_buttons{
-    AnswerButton{Answer::ok, QMessageBox::Ok},       AnswerButton{Answer::yes, QMessageBox::Yes},
-    AnswerButton{Answer::no, QMessageBox::No},       AnswerButton{Answer::abort, QMessageBox::Abort},
-    AnswerButton{Answer::retry, QMessageBox::Retry}, AnswerButton{Answer::ignore, QMessageBox::Ignore},
-};
-
-QMessageBox::StandardButtons buttons_of(Buttons buttons)
-{
-    switch (buttons) {
-    case Buttons::yes_no: return QMessageBox::Yes | QMessageBox::No;
-    case Buttons::abort_retry_ignore: return QMessageBox::Abort | QMessageBox::Retry | QMessageBox::Ignore;
-    case Buttons::ok: break;
-    }
-    return QMessageBox::Ok;
-}
-
-QMessageBox::Icon icon_of(Icon icon)
-{
-    switch (icon) {
-    case Icon::exclamation: return QMessageBox::Warning;
-    case Icon::critical: return QMessageBox::Critical;
-    case Icon::none: break;
-    }
-    return QMessageBox::NoIcon;
-}
 
 /// "Armies (*.Army)|*.Army|All Files|*.*" as the filters "Armies (*.Army)" and "All Files (*)".
 QStringList filters_of(std::string const& pairs)
@@ -75,23 +43,8 @@ QStringList filters_of(std::string const& pairs)
 
 Answer QtDesktop::message_box(MessageBox const& box)
 {
-    QMessageBox message{window_};
-    message.setTextFormat(Qt::PlainText);
-    message.setText(to_qt(box.text).replace("\r\n", "\n"));
-    message.setWindowTitle(to_qt(box.title));
-    message.setIcon(icon_of(box.icon));
-    message.setStandardButtons(buttons_of(box.buttons));
-    for (auto const& [answer, button] : answer_buttons) {
-        if (answer == box.default_answer) message.setDefaultButton(button);
-    }
-    // Escape and the close button do no harm: they never mean Yes, and never Abort.
-    if (box.buttons == Buttons::abort_retry_ignore) message.setEscapeButton(QMessageBox::Ignore);
-    message.exec();
-    auto const pressed = message.standardButton(message.clickedButton());
-    for (auto const& [answer, button] : answer_buttons) {
-        if (button == pressed) return answer;
-    }
-    return box.buttons == Buttons::yes_no ? Answer::no : box.buttons == Buttons::ok ? Answer::ok : Answer::ignore;
+    QWidget* const dialog = QApplication::activeModalWidget();
+    return AnswerBox{box, dialog != nullptr ? dialog : window_}.ask();
 }
 
 void QtDesktop::show_report(MessageBox const& report, Tally const& tally)
