@@ -1,6 +1,7 @@
 #include "ui/qt/qt_desktop.h"
 
 #include "ui/qt/answer_box.h"
+#include "ui/qt/file_chooser.h"
 #include "ui/qt/progress_dialog.h"
 #include "ui/qt/report_box.h"
 #include "ui/qt/text.h"
@@ -8,12 +9,10 @@
 #include <QApplication>
 #include <QDesktopServices>
 #include <QDir>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QLocale>
 #include <QStandardPaths>
-#include <QStringList>
 #include <QUrl>
 
 #include <chrono>
@@ -22,24 +21,6 @@
 #include <system_error>
 
 namespace warhost {
-
-namespace {
-
-/// "Armies (*.Army)|*.Army|All Files|*.*" as the filters "Armies (*.Army)" and "All Files (*)".
-QStringList filters_of(std::string const& pairs)
-{
-    QStringList const parts = to_qt(pairs).split('|');
-    QStringList filters;
-    for (qsizetype k = 0; k + 1 < parts.size(); k += 2) {
-        QString const description = parts[k].section('(', 0, 0).trimmed();
-        QString pattern = parts[k + 1];
-        pattern.replace("*.*", "*").replace(';', ' ');
-        filters << description + " (" + pattern + ")";
-    }
-    return filters;
-}
-
-} // namespace
 
 Answer QtDesktop::message_box(MessageBox const& box)
 {
@@ -104,18 +85,12 @@ QString QtDesktop::folder_for(FileDialogKind kind)
 
 std::optional<std::string> QtDesktop::file_dialog(FileDialog const& dialog)
 {
-    QFileDialog chooser{window_, to_qt(dialog.title), folder_for(dialog.kind)};
-    bool const saves = dialog.kind == FileDialogKind::save;
-    chooser.setAcceptMode(saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
-    chooser.setFileMode(dialog.file_must_exist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
-    chooser.setOption(QFileDialog::DontConfirmOverwrite, !dialog.overwrite_prompt);
-    chooser.setNameFilters(filters_of(dialog.filter));
-    chooser.setDefaultSuffix(to_qt(dialog.default_extension));
-    if (!dialog.file_name.empty()) chooser.selectFile(to_qt(dialog.file_name));
-    if (chooser.exec() != QDialog::Accepted || chooser.selectedFiles().isEmpty()) return std::nullopt;
-    QString const path = chooser.selectedFiles().first();
-    last_folder_ = QFileInfo{path}.absolutePath();
-    return path.toStdString();
+    FileChooser const chooser{dialog, [this](MessageBox const& box) { return message_box(box); }};
+    auto const path = chooser.choose(
+        [&](QString const& start) { return chooser.show_dialog(folder_for(dialog.kind), start, window_); });
+    if (!path) return std::nullopt;
+    last_folder_ = QFileInfo{*path}.absolutePath();
+    return path->toStdString();
 }
 
 bool QtDesktop::minimized() { return window_ != nullptr && window_->isMinimized(); }
