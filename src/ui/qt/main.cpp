@@ -5,6 +5,7 @@
 #include "ui/qt/help_viewer.h"
 #include "ui/qt/outline_style.h"
 #include "ui/qt/qt_desktop.h"
+#include "ui/qt/toolkit_settings.h"
 #include "ui/qt/window.h"
 
 #include <QApplication>
@@ -27,6 +28,7 @@ QIcon window_icon()
 int main(int argc, char* argv[])
 {
     QApplication const application{argc, argv};
+    warhost::keep_no_toolkit_settings();
     QCoreApplication::setApplicationName("warhost");
     QGuiApplication::setDesktopFileName("warhost");
     QApplication::setStyle(new warhost::OutlineStyle);

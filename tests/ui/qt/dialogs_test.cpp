@@ -9,11 +9,13 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDialogButtonBox>
+#include <QFile>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
+#include <QSettings>
 #include <QTest>
 #include <QTextEdit>
 #include <QTimer>
@@ -244,6 +246,22 @@ TEST_F(FileChoice, lists_the_armies_of_the_folder_with_the_hidden_one_when_loadi
         dialog.reject();
     });
     EXPECT_FALSE(chooser(open).show_dialog(to_qt(folder.path()), {}, nullptr));
+}
+
+TEST_F(FileChoice, neither_reads_nor_changes_the_toolkits_settings_of_the_user)
+{
+    QFile settings{qEnvironmentVariable("XDG_CONFIG_HOME") + "/QtProject.conf"};
+    ASSERT_TRUE(settings.open(QIODevice::ReadWrite | QIODevice::NewOnly));
+    QByteArray const own = "[FileDialog]\nlastVisited=file:///own\n";
+    settings.write(own);
+    settings.flush();
+    EXPECT_FALSE(QSettings(QSettings::UserScope, "QtProject").contains("FileDialog/lastVisited"));
+    answer_next_box([&](QWidget& box) { dynamic_cast<QDialog&>(box).reject(); });
+    EXPECT_FALSE(chooser(open).show_dialog(to_qt(folder.path()), {}, nullptr));
+    settings.close();
+    ASSERT_TRUE(settings.open(QIODevice::ReadOnly));
+    EXPECT_EQ(settings.readAll(), own);
+    settings.remove();
 }
 
 TEST(Dialogs, the_report_draws_who_won)

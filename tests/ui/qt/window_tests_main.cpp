@@ -1,4 +1,5 @@
 #include "ui/qt/outline_style.h"
+#include "ui/qt/toolkit_settings.h"
 
 #include <QApplication>
 #include <QFile>
@@ -19,7 +20,9 @@ int main(int argc, char* argv[])
     screens.write(screen.arg(size.at(0), size.at(1)).toUtf8());
     screens.close();
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screens.fileName().toUtf8());
+    qputenv("XDG_CONFIG_HOME", folder.path().toUtf8());
     QApplication const application{argc, argv};
+    warhost::keep_no_toolkit_settings();
     QApplication::setStyle(new warhost::OutlineStyle{qEnvironmentVariable("WARHOST_TEST_STYLE", "fusion")});
     QApplication::setQuitOnLastWindowClosed(false);
     return RUN_ALL_TESTS();
