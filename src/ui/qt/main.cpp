@@ -2,6 +2,7 @@
 
 #include "battle/random.h"
 #include "ui/qt/about_box.h"
+#include "ui/qt/end_signals.h"
 #include "ui/qt/help_viewer.h"
 #include "ui/qt/outline_style.h"
 #include "ui/qt/qt_desktop.h"
@@ -49,5 +50,6 @@ int main(int argc, char* argv[])
     warhost::Main form{desktop, random};
     warhost::Window window{form, desktop};
     window.show();
+    warhost::EndSignals const end_signals{[&] { window.close(); }};
     return QApplication::exec();
 }

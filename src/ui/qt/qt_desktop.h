@@ -21,6 +21,7 @@ public:
     void attach(QWidget* window) { window_ = window; }
     void set_scale(Scale const& scale) { scale_ = scale; }
     void set_client_size(QSize pixels) { client_ = pixels; }
+    bool simulates() const { return progress_.has_value(); }
 
     Answer message_box(MessageBox const& box) override;
     void show_report(MessageBox const& report, Tally const& tally) override;

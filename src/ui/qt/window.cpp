@@ -14,10 +14,14 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QScreen>
+#include <QSessionManager>
 #include <QSignalBlocker>
 #include <QStyle>
+#include <QTimer>
 
 #include <array>
+#include <chrono>
+#include <utility>
 
 namespace warhost {
 
@@ -26,6 +30,7 @@ namespace {
 constexpr double created_width = 12840; // twips, as the heights and margins below
 constexpr double created_height = 9600;
 constexpr int tab_height = 22; // pixels of the base size
+constexpr std::chrono::milliseconds put_off{100};
 
 using MenuHandler = void (*)(Main&);
 
@@ -62,6 +67,9 @@ Window::Window(Main& form, QtDesktop& desktop) : form_(form), desktop_(desktop),
     make_tab_strip();
     make_screens();
     client_->installEventFilter(this);
+    connect(qApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager& session) {
+        if (!session_may_end(session.allowsInteraction())) session.cancel();
+    });
     focus_army_name();
 }
 
@@ -247,19 +255,42 @@ void Window::changeEvent(QEvent* event)
 
 void Window::closeEvent(QCloseEvent* event)
 {
-    // A second request while the question is open (the user logs off, say) waits for its answer.
-    if (asks_to_quit_) {
-        event->ignore();
-        return;
+    if (waits_for_disk()) {
+        // The user must see how a save ends.
+        if (!std::exchange(close_is_put_off_, true)) QTimer::singleShot(put_off, this, [this] { close_again(); });
+        return event->ignore();
     }
-    asks_to_quit_ = true;
-    bool const quits = form_.Form_QueryUnload();
-    asks_to_quit_ = false;
-    event->setAccepted(quits);
-    if (!quits) return;
+    if (!confirms_quit()) return event->ignore();
     for (QWidget* const other : QApplication::topLevelWidgets()) {
         if (other != this && other->isVisible()) other->close(); // an open manual would keep the program running
     }
+    if (desktop_.simulates()) desktop_.end_program(); // the rest of a long run would keep it running too
+}
+
+void Window::close_again()
+{
+    close_is_put_off_ = false;
+    close();
+}
+
+bool Window::waits_for_disk() const { return !isEnabled() && !desktop_.simulates(); }
+
+/// A second request while the question is open is refused, and none is asked about after a Yes.
+bool Window::confirms_quit()
+{
+    if (quits_ || asks_to_quit_) return quits_;
+    asks_to_quit_ = true;
+    quits_ = form_.Form_QueryUnload();
+    asks_to_quit_ = false;
+    return quits_;
+}
+
+bool Window::session_may_end(bool may_ask)
+{
+    if (!may_ask) return true;
+    if (waits_for_disk() || !confirms_quit()) return false;
+    QTimer::singleShot(0, this, &QWidget::close); // the session manager gets its answer first
+    return true;
 }
 
 } // namespace warhost

@@ -21,6 +21,10 @@ public:
     Window(Main& form, QtDesktop& desktop);
     ~Window() override;
 
+    /// Asks as for any other request to close the window, where it may ask at all; after a Yes the window closes from
+    /// the event loop, without asking again. False, also while a file is read or written, when the session must go on.
+    bool session_may_end(bool may_ask);
+
 protected:
     void closeEvent(QCloseEvent* event) override;
     void showEvent(QShowEvent* event) override;
@@ -41,13 +45,18 @@ private:
     void choose_tab(int position);
     void focus_army_name();
     void colour_read_only_boxes();
+    bool waits_for_disk() const;
+    bool confirms_quit();
+    void close_again();
 
     Main& form_;
     QtDesktop& desktop_;
     Scale scale_;
-    bool scrolls_ = false; // the screen cannot hold the base size
-    bool asks_to_quit_ = false;
-    QSize extra_{0, 0}; // what the scroll bars take from the client area
+    bool scrolls_ = false;          // the screen cannot hold the base size
+    bool asks_to_quit_ = false;     // the question is open
+    bool quits_ = false;            // the answer was Yes
+    bool close_is_put_off_ = false; // until a file has been read or written
+    QSize extra_{0, 0};             // what the scroll bars take from the client area
     QWidget* client_;
     TabPage* tabs_ = nullptr;
     ArmyPage* army_ = nullptr;

@@ -16,6 +16,7 @@
 #include <gtest/gtest.h>
 
 #include <deque>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -28,12 +29,14 @@ public:
 
     std::deque<Answer> answers; // the default answer when there is none
     std::optional<std::string> path;
-    std::vector<std::string> titles; // of the messages shown
+    std::vector<std::string> titles;   // of the messages shown
+    std::function<void()> while_asked; // runs while a message is open
     int topic = 0;
 
     Answer message_box(MessageBox const& box) override
     {
         titles.push_back(box.title);
+        if (while_asked) while_asked();
         if (answers.empty()) return box.default_answer;
         Answer const answer = answers.front();
         answers.pop_front();

@@ -4,12 +4,14 @@
 #include "battle/dice.h"
 #include "temporary_folder.h"
 #include "ui/agreement.h"
+#include "ui/qt/end_signals.h"
 #include "ui/qt/option_choice.h"
 #include "ui/qt/text.h"
 #include "ui/qt/value_box.h"
 
 #include <QAccessible>
 #include <QCheckBox>
+#include <QDialog>
 #include <QLineEdit>
 #include <QThread>
 #include <QTimer>
@@ -17,6 +19,7 @@
 
 #include <atomic>
 #include <clocale>
+#include <csignal>
 
 namespace warhost {
 
@@ -305,6 +308,73 @@ TEST(Window, closing_asks_first)
     EXPECT_FALSE(screen.window.isVisible());
     EXPECT_EQ(screen.desktop.titles, (std::vector<std::string>{"Quit Warhost?", "Quit Warhost?"}));
 }
+
+TEST(Window, the_end_of_the_session_asks_once_and_takes_no_for_an_answer)
+{
+    Screen screen;
+    EXPECT_TRUE(screen.window.session_may_end(false)) << "nothing may be asked";
+    screen.desktop.answers = {Answer::no, Answer::yes};
+    EXPECT_FALSE(screen.window.session_may_end(true));
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(screen.window.isVisible());
+    screen.desktop.while_asked = [&] { EXPECT_FALSE(screen.window.session_may_end(true)) << "asked already"; };
+    EXPECT_TRUE(screen.window.session_may_end(true));
+    EXPECT_TRUE(screen.window.isVisible());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !screen.window.isVisible(); }));
+    EXPECT_TRUE(screen.window.close());
+    EXPECT_EQ(screen.desktop.titles.size(), 2U);
+}
+
+#ifndef Q_OS_WIN
+TEST(Window, a_signal_to_end_asks_once_and_closes_the_open_dialogs)
+{
+    Screen screen;
+    EndSignals const end_signals{[&] { screen.window.close(); }};
+    screen.desktop.answers = {Answer::no, Answer::yes};
+    screen.desktop.while_asked = [] {
+        for (int const signal : {SIGTERM, SIGHUP}) std::raise(signal);
+        QCoreApplication::processEvents();
+    };
+    std::raise(SIGHUP);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return screen.desktop.titles.size() == 1; }));
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(screen.window.isVisible());
+
+    QDialog outer{&screen.window};
+    QDialog inner{&outer};
+    bool left_open = false;
+    QTimer::singleShot(3000, &outer, [&] {
+        left_open = true;
+        inner.reject();
+        outer.reject();
+    });
+    QTimer::singleShot(0, [&] {
+        std::raise(SIGTERM);
+        inner.exec();
+    });
+    outer.exec();
+    EXPECT_FALSE(left_open || screen.window.isVisible());
+    EXPECT_EQ(screen.desktop.titles.size(), 2U);
+}
+
+TEST(Window, a_signal_to_end_waits_for_a_file)
+{
+    Screen screen;
+    EndSignals const end_signals{[&] { screen.window.close(); }};
+    screen.desktop.answers = {Answer::no};
+    std::atomic<bool> noticed = false;
+    QTimer::singleShot(700, [&] {
+        for (int const signal : {SIGTERM, SIGTERM}) std::raise(signal);
+        QTimer::singleShot(300, [&] { noticed = true; });
+    });
+    screen.desktop.wait_for([&] {
+        for (int wait = 0; wait < 500 && !noticed; ++wait) QThread::msleep(10);
+    });
+    EXPECT_TRUE(noticed && screen.desktop.titles.empty());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !screen.desktop.titles.empty(); }));
+    EXPECT_EQ(screen.desktop.titles.size(), 1U);
+}
+#endif
 
 TEST(Window, the_four_containers_follow_the_windows_size)
 {
