@@ -12,6 +12,7 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
@@ -262,6 +263,30 @@ TEST_F(FileChoice, neither_reads_nor_changes_the_toolkits_settings_of_the_user)
     ASSERT_TRUE(settings.open(QIODevice::ReadOnly));
     EXPECT_EQ(settings.readAll(), own);
     settings.remove();
+}
+
+TEST(Dialogs, the_input_box_gives_the_text_and_nothing_when_cancelled)
+{
+    QtDesktop desktop;
+    for (auto const& [key, text] : {std::pair{Qt::Key_Enter, "1000"}, {Qt::Key_Escape, ""}}) {
+        answer_next_box([key = key](QWidget& box) { QTest::keyClick(&box, key); });
+        EXPECT_EQ(desktop.input_box({.prompt = "How many?", .title = "Simulate", .default_text = "1000"}), text);
+    }
+}
+
+TEST(Dialogs, the_progress_is_shown_after_half_a_second_until_the_last_battle)
+{
+    QtDesktop desktop;
+    desktop.show_progress(1, 3);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    QTest::qSleep(600);
+    desktop.show_progress(2, 3);
+    ASSERT_NE(QApplication::activeModalWidget(), nullptr);
+    auto const* const bar = QApplication::activeModalWidget()->findChild<QProgressBar*>();
+    EXPECT_EQ(100 * bar->value() / bar->maximum(), 66);
+    desktop.show_progress(3, 3);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    EXPECT_FALSE(desktop.simulates());
 }
 
 TEST(Dialogs, the_report_draws_who_won)
