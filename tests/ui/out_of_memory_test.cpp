@@ -28,55 +28,41 @@ bool memory_stays_short = false; // all that follow fail, too
 namespace warhost {
 namespace {
 
-/// A battle between two armies whose texts all need memory of their own, with Side A's tab or another selected.
-struct Battle {
-    static constexpr char const* long_name = "An army whose name is longer than a small string";
+constexpr char const* list = "A modifier with quite a long name\r\n101|1,3\r\nAmbush\r\n102|3,1\r\n";
 
-    TemporaryFolder folder;
-    TestDesktop desktop;
-    Generator random{11};
-    Main form{desktop, random};
-
-    explicit Battle(int tab)
+/// Two armies whose texts need memory of their own, a third one in a file, and a tab selected.
+struct Battle : Started<Generator> {
+    explicit Battle(int tab) : Started(Generator{11}, list)
     {
-        folder.write("modif.txt", "A modifier with quite a long name\r\n101|1,3\r\nAmbush\r\n102|3,1\r\n");
-        desktop.directory = folder.path();
         desktop.chosen = folder.path("x.Army");
         desktop.typed = "40";
-        form.Form_Load();
-        Army loaded;
-        loaded.Name = "The army that the file holds, long enough";
-        loaded.UnitType[0] = "Riders out of the file, thirty";
-        loaded.UnitNum[0] = 30;
-        loaded.Opt[3] = -1;
-        loaded.OptValue[0] = 4;
-        loaded.Level = 3;
-        folder.write("x.Army", encode_army(loaded));
         for (int const side : {2, 1}) {
             form.TabStrip.choose(side);
-            form.txtArmyName.set_text(long_name);
+            form.txtArmyName.set_text("An army whose name is longer than a small string");
             form.txtUnitType(0).set_text("Spearmen of the northern marches");
             form.txtUnitNum(0).set_text(plain_text(60 * side));
         }
+        Army in_file = form.CurArmy;
+        in_file.Name = "The army that the file holds, as long";
+        in_file.Opt[3] = -1;
+        in_file.OptValue[0] = 4;
+        folder.write("x.Army", encode_army(in_file));
         form.TabStrip.choose(tab);
     }
 
+    /// Beside what check_agreement compares.
     std::string everything()
     {
-        std::string text = texts(form.txtArmyName, form.cmbLevel, form.txtTotal, form.txtTotalNo, form.lblRatio,
-                                 form.lblRatioBonus, form.lblOtherLevel, form.lblLevelBonus, form.txtResult(0),
-                                 form.txtResult(1), form.lblWinner, form.lblWinBy, form.txtCasRollBonus,
-                                 form.txtLoserCasualty, form.lblLoserPercent, form.txtVictorCasRoll, form.lblCasRange,
-                                 form.txtVictorCasPercent, form.txtVictorCas, form.txtTotalMod(0), form.txtTotalMod(1));
-        for (auto* const boxes : {&form.txtUnitType, &form.txtUnitNum, &form.txtAName, &form.txtANum, &form.txtLoses})
+        std::string text = texts(form.lblRatio, form.lblRatioBonus, form.lblOtherLevel, form.txtResult(0),
+                                 form.txtResult(1), form.lblWinner, form.lblLoserPercent, form.txtCasRollBonus,
+                                 form.txtVictorCasRoll, form.lblCasRange, form.txtVictorCasPercent, form.txtVictorCas);
+        for (auto* const boxes : {&form.txtAName, &form.txtANum, &form.txtLoses})
             for (auto const& [index, box] : *boxes) text += "/" + box.text();
-        for (auto* const boxes : {&form.cmbOpt, &form.cmbMisc})
-            for (auto const& [index, box] : *boxes) text += "/" + box.text() + plain_text(box.list_size());
-        for (auto const& [index, button] : form.opt) text += button.selected() ? "o" : ".";
+        for (auto const& [index, box] : form.cmbOpt) text += plain_text(box.list_size());
         for (auto const& [index, box] : form.chkMisc) text += box.bold() ? "x" : ".";
         for (auto const* army : {&form.ArmyA, &form.ArmyB, &form.CurArmy}) text += encode_army(*army);
         text += form.txtBattleResults.document() + form.txtVictorDesc.document() + plain_text(form.TabStrip.position());
-        return text + plain_text(static_cast<int>(random.next() * 1e6)) + (form.Updating ? " Updating" : "");
+        return text + std::to_string(random.next()) + (form.Updating ? " Updating" : "");
     }
 };
 
@@ -114,60 +100,49 @@ std::vector<Action> const actions{
     // clang-format on
 };
 
-/// Runs the action while its n-th allocation fails. Returns whether it made so many.
-bool run_short_of_memory(Battle& battle, Action const& action, int n, bool for_good)
+/// Runs `run` while its n-th allocation fails, and all that follow where memory stays short. Returns whether it made so
+/// many.
+template <class Run> bool short_of_memory(int n, bool for_good, Run run)
 {
-    battle.desktop.boxes.clear();
-    std::string typed = action.typed;
     memory_stays_short = for_good;
     allocations_left = n;
-    EXPECT_NO_THROW(action.act(battle.form, std::move(typed)));
+    EXPECT_NO_THROW(run());
     bool const struck = allocations_left == 0 || (for_good && allocations_left == 1);
     allocations_left = -1;
     return struck;
 }
 
-TEST(OutOfMemory, an_allocation_that_fails_changes_nothing_but_what_is_reported)
+bool act(Battle& battle, Action const& action, int n, bool for_good)
+{
+    battle.desktop.boxes.clear();
+    std::string typed = action.typed;
+    return short_of_memory(n, for_good, [&] { action.act(battle.form, std::move(typed)); });
+}
+
+TEST(OutOfMemory, changes_nothing_but_what_is_reported_and_leaves_nothing_that_the_next_tab_does_not_mend)
 {
     for (auto const& action : actions) {
         Battle unbroken{action.tab}, untouched{action.tab};
-        run_short_of_memory(unbroken, action, -1, false);
+        act(unbroken, action, -1, false);
         std::string const done = unbroken.everything(), undone = untouched.everything();
-        bool struck = true;
-        for (int n = 1; struck; ++n) {
-            SCOPED_TRACE(testing::Message() << action.name << ", allocation " << n);
-            Battle battle{action.tab};
-            struck = run_short_of_memory(battle, action, n, false);
-            std::string const state = battle.everything();
-            bool const refused = action.reports && battle.desktop.boxes.size() == 1;
-            EXPECT_TRUE(state == done || (refused && state == undone));
-            EXPECT_TRUE(refused || battle.desktop.boxes == unbroken.desktop.boxes);
-            EXPECT_EQ(battle.folder.names(), (std::set<std::string>{"modif.txt", "x.Army"}));
-            for (int const tab : {tab_side_b, tab_side_a}) {
-                battle.form.TabStrip.choose(tab);
-                check_agreement(battle.form);
+        for (bool const for_good : {false, true}) {
+            bool struck = true;
+            for (int n = 1; struck; ++n) {
+                SCOPED_TRACE(testing::Message() << action.name << ", allocation " << n << (for_good ? " on" : ""));
+                Battle battle{action.tab};
+                struck = act(battle, action, n, for_good);
+                std::string const state = battle.everything();
+                bool const refused = action.reports && battle.desktop.boxes.size() == 1;
+                EXPECT_TRUE(for_good || state == done || (refused && state == undone));
+                EXPECT_TRUE(for_good || refused || battle.desktop.boxes == unbroken.desktop.boxes);
+                EXPECT_FALSE(battle.form.Updating);
+                EXPECT_EQ(battle.folder.names(), (std::set<std::string>{"modif.txt", "x.Army"}));
+                for (int const tab : {tab_side_b, tab_side_a}) {
+                    battle.form.TabStrip.choose(tab);
+                    check_agreement(battle.form);
+                }
+                ASSERT_LT(n, 1000);
             }
-            ASSERT_LT(n, 1000);
-        }
-    }
-}
-
-TEST(OutOfMemory, that_lasts_leaves_nothing_that_the_next_tab_does_not_mend)
-{
-    for (auto const& action : actions) {
-        bool struck = true;
-        for (int n = 1; struck; ++n) {
-            SCOPED_TRACE(testing::Message() << action.name << ", from allocation " << n);
-            Battle battle{action.tab};
-            struck = run_short_of_memory(battle, action, n, true);
-            EXPECT_FALSE(battle.form.Updating);
-            for (int const tab : {tab_side_b, tab_side_a}) {
-                battle.form.TabStrip.choose(tab);
-                check_agreement(battle.form);
-                EXPECT_FALSE(battle.form.CurArmy.Name.empty());
-            }
-            EXPECT_EQ(battle.folder.names(), (std::set<std::string>{"modif.txt", "x.Army"}));
-            ASSERT_LT(n, 1000);
         }
     }
 }
@@ -175,7 +150,7 @@ TEST(OutOfMemory, that_lasts_leaves_nothing_that_the_next_tab_does_not_mend)
 TEST(OutOfMemory, while_the_list_is_built_leaves_out_what_it_must)
 {
     TemporaryFolder const folder;
-    folder.write("modif.txt", "A modifier with quite a long name\r\n101|1,3\r\nAmbush\r\n102|3,1\r\n");
+    folder.write("modif.txt", list);
     for (bool const for_good : {false, true}) {
         bool struck = true;
         for (int n = 1; struck; ++n) {
@@ -184,11 +159,7 @@ TEST(OutOfMemory, while_the_list_is_built_leaves_out_what_it_must)
             desktop.directory = folder.path();
             ScriptedRandom random;
             Main form{desktop, random};
-            memory_stays_short = for_good;
-            allocations_left = n;
-            EXPECT_NO_THROW(form.ReadMiscMod());
-            struck = allocations_left == 0 || (for_good && allocations_left == 1);
-            allocations_left = -1;
+            struck = short_of_memory(n, for_good, [&] { form.ReadMiscMod(); });
             EXPECT_EQ(form.chkMisc.highest(), form.cmbMisc.highest());
             EXPECT_TRUE(for_good || form.chkMisc.highest() == 2);
         }

@@ -10,20 +10,10 @@ namespace warhost {
 namespace {
 
 /// A user who does anything at all.
-struct AnyUser {
-    TemporaryFolder folder;
-    TestDesktop desktop;
-    Generator chance{2026};
-    Main form{desktop, chance};
+struct AnyUser : Started<Generator> {
+    AnyUser() : Started(Generator{2026}) {}
 
-    AnyUser()
-    {
-        folder.write("modif.txt", Program::usual_list);
-        desktop.directory = folder.path();
-        form.Form_Load();
-    }
-
-    int any(int last) { return roll_between(chance, 0, last); }
+    int any(int last) { return roll_between(random, 0, last); }
 
     std::string any_text()
     {

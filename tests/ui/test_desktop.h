@@ -128,20 +128,24 @@ inline std::string report(std::array<std::string, 5> const& numbers)
 }
 
 /// A started program with a list of three misc modifiers, or another list, or none.
-struct Program {
+template <class Random> struct Started {
     static constexpr char const* usual_list = "High ground\r\n101|1,3\r\nAmbush\r\n102|3,1\r\nRain\r\n-2\r\n";
 
     TemporaryFolder folder;
     TestDesktop desktop;
-    ScriptedRandom random;
+    Random random;
     Main form{desktop, random};
 
-    explicit Program(std::optional<std::string> const& list = usual_list)
+    explicit Started(Random source, std::optional<std::string> const& list = usual_list) : random(std::move(source))
     {
         if (list) folder.write("modif.txt", *list);
         desktop.directory = folder.path();
         form.Form_Load();
     }
+};
+
+struct Program : Started<ScriptedRandom> {
+    explicit Program(std::optional<std::string> const& list = usual_list) : Started({}, list) {}
 };
 
 } // namespace warhost
