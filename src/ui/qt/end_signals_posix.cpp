@@ -17,14 +17,18 @@ namespace {
 
 constexpr std::array end_signals{SIGTERM, SIGHUP};
 
-// A signal handler may do little more than write to a pipe.
-volatile std::sig_atomic_t write_end = -1;
+/// Of the pipe that a signal is noted in: a signal handler may do little more than write.
+std::sig_atomic_t volatile& write_end()
+{
+    static volatile std::sig_atomic_t end = -1;
+    return end;
+}
 
 extern "C" void note_signal(int /*number*/)
 {
     int const error = errno;
     // A full pipe holds a request already.
-    [[maybe_unused]] auto const written = write(write_end, "", 1);
+    [[maybe_unused]] auto const written = write(write_end(), "", 1);
     errno = error;
 }
 
@@ -35,7 +39,7 @@ public:
     explicit Watch(std::function<void()> on_request) : on_request_(std::move(on_request))
     {
         if (pipe2(pipe_.data(), O_CLOEXEC | O_NONBLOCK) != 0) return; // the signals then end the program as ever
-        write_end = pipe_[1];
+        write_end() = pipe_[1];
         notifier_.emplace(pipe_[0], QSocketNotifier::Read);
         QObject::connect(&*notifier_, &QSocketNotifier::activated, &*notifier_, [this] {
             std::array<char, 64> requests{};
@@ -54,7 +58,6 @@ public:
     {
         if (!notifier_) return;
         for (std::size_t k = 0; k < end_signals.size(); ++k) sigaction(end_signals.at(k), &before_.at(k), nullptr);
-        write_end = -1;
         for (int const end : pipe_) close(end);
     }
     Watch(Watch const&) = delete;

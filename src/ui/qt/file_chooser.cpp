@@ -78,7 +78,7 @@ public:
         if (files.isEmpty() || QFileInfo{files.first()}.isDir()) return QFileDialog::accept();
         if (auto const path = chooser_.settled(files.first())) {
             settled_ = *path;
-            QDialog::accept();
+            done(Accepted);
         }
     }
 
@@ -110,7 +110,7 @@ std::optional<QString> FileChooser::choose(Show const& show) const
     QString start = to_qt(request_.file_name);
     while (auto const choice = show(start)) {
         if (choice->settled) return choice->path;
-        if (auto const path = settled(choice->path)) return path;
+        if (auto path = settled(choice->path)) return path;
         start = choice->path;
     }
     return std::nullopt;

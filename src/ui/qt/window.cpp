@@ -17,11 +17,9 @@
 #include <QSessionManager>
 #include <QSignalBlocker>
 #include <QStyle>
-#include <QTimer>
 
 #include <array>
 #include <chrono>
-#include <utility>
 
 namespace warhost {
 
@@ -67,6 +65,8 @@ Window::Window(Main& form, QtDesktop& desktop) : form_(form), desktop_(desktop),
     make_tab_strip();
     make_screens();
     client_->installEventFilter(this);
+    close_later_.setSingleShot(true);
+    connect(&close_later_, &QTimer::timeout, this, &QWidget::close);
     connect(qApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager& session) {
         if (!session_may_end(session.allowsInteraction())) session.cancel();
     });
@@ -256,8 +256,7 @@ void Window::changeEvent(QEvent* event)
 void Window::closeEvent(QCloseEvent* event)
 {
     if (waits_for_disk()) {
-        // The user must see how a save ends.
-        if (!std::exchange(close_is_put_off_, true)) QTimer::singleShot(put_off, this, [this] { close_again(); });
+        close_later_.start(put_off); // the user must see how a save ends
         return event->ignore();
     }
     if (!confirms_quit()) return event->ignore();
@@ -265,12 +264,6 @@ void Window::closeEvent(QCloseEvent* event)
         if (other != this && other->isVisible()) other->close(); // an open manual would keep the program running
     }
     if (desktop_.simulates()) desktop_.end_program(); // the rest of a long run would keep it running too
-}
-
-void Window::close_again()
-{
-    close_is_put_off_ = false;
-    close();
 }
 
 bool Window::waits_for_disk() const { return !isEnabled() && !desktop_.simulates(); }
@@ -289,7 +282,7 @@ bool Window::session_may_end(bool may_ask)
 {
     if (!may_ask) return true;
     if (waits_for_disk() || !confirms_quit()) return false;
-    QTimer::singleShot(0, this, &QWidget::close); // the session manager gets its answer first
+    close_later_.start(0); // the session manager gets its answer first
     return true;
 }
 

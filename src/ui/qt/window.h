@@ -5,6 +5,7 @@
 #include "ui/qt/scale.h"
 
 #include <QMainWindow>
+#include <QTimer>
 
 namespace warhost {
 
@@ -47,16 +48,15 @@ private:
     void colour_read_only_boxes();
     bool waits_for_disk() const;
     bool confirms_quit();
-    void close_again();
 
     Main& form_;
     QtDesktop& desktop_;
     Scale scale_;
-    bool scrolls_ = false;          // the screen cannot hold the base size
-    bool asks_to_quit_ = false;     // the question is open
-    bool quits_ = false;            // the answer was Yes
-    bool close_is_put_off_ = false; // until a file has been read or written
-    QSize extra_{0, 0};             // what the scroll bars take from the client area
+    bool scrolls_ = false;      // the screen cannot hold the base size
+    bool asks_to_quit_ = false; // the question is open
+    bool quits_ = false;        // the answer was Yes
+    QTimer close_later_;
+    QSize extra_{0, 0}; // what the scroll bars take from the client area
     QWidget* client_;
     TabPage* tabs_ = nullptr;
     ArmyPage* army_ = nullptr;
