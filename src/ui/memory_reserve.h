@@ -1,6 +1,7 @@
 // Memory that is set aside for the moment when there is none left.
 #pragma once
 
+#include <array>
 #include <memory>
 #include <new>
 
@@ -14,15 +15,15 @@ public:
     /// Sets the memory aside again, where there is enough.
     void fill() noexcept
     {
-        if (!block_) block_.reset(new (std::nothrow) char[size]);
+        if (!block_) block_.reset(new (std::nothrow) Block);
     }
 
     void free() noexcept { block_.reset(); }
 
 private:
-    static constexpr std::size_t size = std::size_t{256} * 1024;
+    using Block = std::array<char, std::size_t{256} * 1024>;
 
-    std::unique_ptr<char[]> block_;
+    std::unique_ptr<Block> block_;
 };
 
 } // namespace warhost
