@@ -41,6 +41,19 @@ std::optional<char32_t> next_character(std::string_view text, std::size_t& at)
     return character;
 }
 
+/// UTF-8 of a character of the code page.
+void append_utf8(char32_t character, std::string& text)
+{
+    auto const tail = [&](unsigned shift) { return static_cast<char>(0x80 | ((character >> shift) & 0x3F)); };
+    if (character < 0x80) {
+        text += static_cast<char>(character);
+    } else if (character < 0x800) {
+        text += {static_cast<char>(0xC0 | (character >> 6)), tail(0)};
+    } else {
+        text += {static_cast<char>(0xE0 | (character >> 12)), tail(6), tail(0)};
+    }
+}
+
 std::optional<char> byte_of(char32_t character)
 {
     if (character < first_upper_control || (character >= 0xA0 && character <= 0xFF))
@@ -61,15 +74,6 @@ std::string code_point_name(char32_t character)
 
 } // namespace
 
-std::string utf8_of(char32_t character)
-{
-    auto const tail = [&](unsigned shift) { return static_cast<char>(0x80 | ((character >> shift) & 0x3F)); };
-    if (character < 0x80) return {static_cast<char>(character)};
-    if (character < 0x800) return {static_cast<char>(0xC0 | (character >> 6)), tail(0)};
-    if (character < 0x10000) return {static_cast<char>(0xE0 | (character >> 12)), tail(6), tail(0)};
-    return {static_cast<char>(0xF0 | (character >> 18)), tail(12), tail(6), tail(0)};
-}
-
 std::string utf8_of_windows_1252(std::string_view bytes)
 {
     std::string text;
@@ -77,7 +81,7 @@ std::string utf8_of_windows_1252(std::string_view bytes)
     for (char const c : bytes) {
         unsigned const byte = static_cast<unsigned char>(c);
         bool const mapped = byte >= first_upper_control && byte < 0xA0;
-        text += utf8_of(mapped ? upper_controls[byte - first_upper_control] : byte);
+        append_utf8(mapped ? upper_controls[byte - first_upper_control] : byte, text);
     }
     return text;
 }

@@ -7,9 +7,6 @@
 
 namespace warhost {
 
-/// UTF-8 of one character, up to 10FFFF.
-std::string utf8_of(char32_t character);
-
 /// UTF-8 of a Windows-1252 text. The five bytes that the code page leaves undefined (81, 8D, 8F, 90, 9D) become the
 /// control characters of the same number, so that every byte survives the way there and back.
 std::string utf8_of_windows_1252(std::string_view bytes);
