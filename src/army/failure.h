@@ -1,15 +1,21 @@
-// A step that failed, and the one table of failure numbers and texts.
+// A step that failed, and the numbers and texts of all failures.
 #pragma once
 
-#include <array>
 #include <cstdint>
+#include <exception>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace warhost {
 
 /// What a failing step throws: a number, never 0, and a text for the user. Number 0 means "nothing failed".
-struct Failure {
+struct Failure : std::exception {
+    Failure() = default;
+    Failure(std::int32_t fault_number, std::string description) : number(fault_number), text(std::move(description)) {}
+
+    char const* what() const noexcept override { return text.c_str(); }
+
     std::int32_t number = 0;
     std::string text;
 };
@@ -40,46 +46,38 @@ enum class Fault : std::int32_t {
     text_too_long = 303,
 };
 
-struct FaultText {
-    Fault fault;
-    std::string_view text;
-};
-
-inline constexpr std::array fault_texts{
-    FaultText{Fault::overflow, "The number is too large"},
-    FaultText{Fault::no_such_control, "There is no such control"},
-    FaultText{Fault::file_not_found, "The file was not found"},
-    FaultText{Fault::folder_not_found, "The folder was not found"},
-    FaultText{Fault::permission_denied, "Permission denied"},
-    FaultText{Fault::is_a_folder, "This is a folder, not a file"},
-    FaultText{Fault::not_a_file, "This is not an ordinary file"},
-    FaultText{Fault::bad_name, "The file name cannot be used"},
-    FaultText{Fault::read_only, "The disk is read-only"},
-    FaultText{Fault::disk_full, "The disk is full"},
-    FaultText{Fault::too_large, "The file is too large"},
-    FaultText{Fault::too_many_open, "Too many files are open"},
-    FaultText{Fault::link_loop, "The symbolic links form a loop"},
-    FaultText{Fault::busy, "The file is in use"},
-    FaultText{Fault::device_error, "The disk or network reported an error"},
-    FaultText{Fault::out_of_memory, "There is not enough memory"},
-    FaultText{Fault::not_available, "The disk or network folder does not answer"},
-    FaultText{Fault::connection_lost, "The connection to the network folder was lost"},
-    FaultText{Fault::foreign_link, "A symbolic link of another user is not followed here"},
-    FaultText{Fault::file_error, "The file could not be used"},
-    FaultText{Fault::file_too_short, "The file is not a complete army"},
-    FaultText{Fault::outside_code_page, "A character cannot be stored in an army file"},
-    FaultText{Fault::text_too_long, "A text is too long for an army file"},
-};
-
+/// What the user reads of a fault.
 constexpr std::string_view fault_text(Fault fault)
 {
-    for (auto const& row : fault_texts) {
-        if (row.fault == fault) return row.text;
+    switch (fault) {
+    case Fault::overflow: return "The number is too large";
+    case Fault::no_such_control: return "There is no such control";
+    case Fault::file_not_found: return "The file was not found";
+    case Fault::folder_not_found: return "The folder was not found";
+    case Fault::permission_denied: return "Permission denied";
+    case Fault::is_a_folder: return "This is a folder, not a file";
+    case Fault::not_a_file: return "This is not an ordinary file";
+    case Fault::bad_name: return "The file name cannot be used";
+    case Fault::read_only: return "The disk is read-only";
+    case Fault::disk_full: return "The disk is full";
+    case Fault::too_large: return "The file is too large";
+    case Fault::too_many_open: return "Too many files are open";
+    case Fault::link_loop: return "The symbolic links form a loop";
+    case Fault::busy: return "The file is in use";
+    case Fault::device_error: return "The disk or network reported an error";
+    case Fault::out_of_memory: return "There is not enough memory";
+    case Fault::not_available: return "The disk or network folder does not answer";
+    case Fault::connection_lost: return "The connection to the network folder was lost";
+    case Fault::foreign_link: return "A symbolic link of another user is not followed here";
+    case Fault::file_error: return "The file could not be used";
+    case Fault::file_too_short: return "The file is not a complete army";
+    case Fault::outside_code_page: return "A character cannot be stored in an army file";
+    case Fault::text_too_long: return "A text is too long for an army file";
     }
     return {};
 }
 
-/// The failure of a row of the table; detail, when there is one, follows its text after ": ".
+/// The failure of a fault; detail, when there is one, follows its text after ": ".
 inline Failure failure_of(Fault fault, std::string_view detail = {})
 {
     std::string text{fault_text(fault)};
