@@ -7,8 +7,10 @@
 #include <QDir>
 #include <QEvent>
 #include <QFileDialog>
+#include <QFileIconProvider>
 #include <QFileInfo>
 #include <QLineEdit>
+#include <QMimeDatabase>
 #include <QPushButton>
 #include <QStringList>
 
@@ -40,6 +42,20 @@ bool too_long(QString const& path)
     auto const status = std::filesystem::symlink_status(std::u8string{utf8.begin(), utf8.end()}, error);
     return status.type() == std::filesystem::file_type::none && error == std::errc::filename_too_long;
 }
+
+/// Judges files by their names. The toolkit's own provider reads the beginning of every file in the folder, which takes
+/// long on a slow disk, and for ever where a file never answers.
+class NameOnlyIcons : public QFileIconProvider {
+public:
+    using QFileIconProvider::icon;
+
+    QIcon icon(QFileInfo const& file) const override { return icon(file.isDir() ? Folder : File); }
+    QString type(QFileInfo const& file) const override
+    {
+        if (file.isDir()) return QFileDialog::tr("Folder");
+        return QMimeDatabase{}.mimeTypeForFile(file.fileName(), QMimeDatabase::MatchExtension).comment();
+    }
+};
 
 /// Must not have a meta-object of its own: the toolkit shows the desktop's dialog for its own class only.
 class ChooserDialog : public QFileDialog {
@@ -121,7 +137,9 @@ std::optional<FileChooser::Choice> FileChooser::show_dialog(QString const& folde
 {
     QFileInfo const info{QDir{folder}, start};
     bool const has_folder = !start.isEmpty() && info.dir().exists();
+    NameOnlyIcons icons;
     ChooserDialog dialog{*this, request_, has_folder ? info.absolutePath() : folder, window};
+    dialog.setIconProvider(&icons);
     if (!start.isEmpty()) dialog.selectFile(info.fileName());
     return dialog.choose();
 }
