@@ -15,6 +15,8 @@ namespace warhost {
 class MiscPanel;
 
 class ArmyPage : public ScreenArea {
+    Q_OBJECT
+
 public:
     /// content: the part of the screen that is laid out, in pixels. show_help opens the manual at a topic.
     ArmyPage(Main& form, Scale const& scale, QSize content, std::function<void(int)> const& show_help, QWidget* parent);

@@ -12,6 +12,8 @@ namespace warhost {
 
 /// The share of battles by the percentage that one side lost, 0 to 110, with the mean marked.
 class CasualtyHistogram : public QWidget {
+    Q_OBJECT
+
 public:
     /// mean_text: as the report's text writes it.
     CasualtyHistogram(QString const& side, std::array<std::int64_t, highest_share + 1> const& battles, double mean,
@@ -48,6 +50,8 @@ struct OutcomePart {
 
 /// One bar for wins and ties; the parts are told apart by pattern and label, not by colour alone.
 class OutcomeBar : public QWidget {
+    Q_OBJECT
+
 public:
     explicit OutcomeBar(std::array<OutcomePart, 3> parts, QWidget* parent = nullptr);
 

@@ -7,6 +7,8 @@
 namespace warhost {
 
 class CaptionFrame : public QGroupBox {
+    Q_OBJECT
+
 public:
     /// margin: pixels to the left, right and bottom of what the frame holds.
     explicit CaptionFrame(int margin, QWidget* parent = nullptr);

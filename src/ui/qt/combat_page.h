@@ -10,6 +10,8 @@ class QLayout;
 namespace warhost {
 
 class CombatPage : public ScreenArea {
+    Q_OBJECT
+
 public:
     /// content: the part of the screen that is laid out, in pixels.
     CombatPage(Main& form, Scale const& scale, QSize content, QWidget* parent);

@@ -17,6 +17,8 @@ class ValueBox;
 /// Rows stand where the fields say; they do not move with the panel's size. A row gets its widgets when the panel is
 /// first tall enough to show it.
 class MiscPanel : public CaptionFrame {
+    Q_OBJECT
+
 public:
     MiscPanel(Main& form, Scale const& scale, std::function<void(int)> show_help, QWidget* parent);
 

@@ -10,6 +10,8 @@ namespace warhost {
 /// The arrow keys select the neighbours in the same parent, in a circle. A group is one stop for the Tab key: its
 /// selected option, else its first.
 class OptionChoice : public QRadioButton {
+    Q_OBJECT
+
 public:
     explicit OptionChoice(QWidget* parent);
 

@@ -8,6 +8,8 @@ namespace warhost {
 /// A style that derives its outlines from the window's colour by darkening leaves boxes invisible on a dark one: there
 /// every box, check mark and option gets an outline between the window's colour and the text's.
 class OutlineStyle : public QProxyStyle {
+    Q_OBJECT
+
 public:
     using QProxyStyle::QProxyStyle;
 

@@ -12,6 +12,8 @@ namespace warhost {
 /// Takes no input and closes when its owner says so, not by a key. The window below is disabled as long as the dialog
 /// exists: assistive technology would pass a dialog that is only modal.
 class ProgressDialog : public QDialog {
+    Q_OBJECT
+
 public:
     /// window: the main window, or none. spoken: what the bar counts, for a screen reader.
     ProgressDialog(QWidget* window, QString const& title, QString const& spoken);

@@ -11,6 +11,8 @@ namespace warhost {
 /// A message box in function: the report's text and one button. Enter and Escape close it; its texts can be selected
 /// and copied.
 class ReportBox : public QDialog {
+    Q_OBJECT
+
 public:
     ReportBox(MessageBox const& report, Tally const& tally, NumberFormat const& format, QWidget* parent);
 };

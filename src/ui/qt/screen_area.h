@@ -6,6 +6,8 @@
 namespace warhost {
 
 class ScreenArea : public QScrollArea {
+    Q_OBJECT
+
 public:
     explicit ScreenArea(QWidget* parent);
 

@@ -8,6 +8,8 @@ namespace warhost {
 /// The strip keeps its height whatever the widget's; the rest of the widget is the page's frame. Only the left button
 /// chooses a tab; the wheel does not.
 class TabPage : public QTabBar {
+    Q_OBJECT
+
 public:
     TabPage(int tab_height, QWidget* parent);
 

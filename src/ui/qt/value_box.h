@@ -8,6 +8,8 @@
 namespace warhost {
 
 class ValueBox : public QComboBox {
+    Q_OBJECT
+
 public:
     /// The field must outlive the box's use.
     explicit ValueBox(ComboBox& field);

@@ -18,6 +18,8 @@ class TabPage;
 /// Loads the form and shows it. The font and the scale are the user's, within what the screen can hold; on a screen
 /// that cannot hold the base size the two screens scroll. The form must not be used once the window is gone.
 class Window : public QMainWindow {
+    Q_OBJECT
+
 public:
     Window(Main& form, QtDesktop& desktop);
     ~Window() override;

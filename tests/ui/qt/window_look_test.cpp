@@ -17,8 +17,15 @@
 #include <QTextEdit>
 
 #include <algorithm>
+#include <cstdlib>
 #include <map>
+#include <memory>
 #include <set>
+#include <string>
+#include <string_view>
+#include <typeinfo>
+
+#include <cxxabi.h>
 
 namespace warhost {
 
@@ -99,6 +106,22 @@ bool inside_its_parents(QWidget const& widget)
         place.translate(parent->pos());
     }
     return true;
+}
+
+TEST(WindowLook, every_widget_of_ours_carries_its_own_class_name)
+{
+    // Without it, findChild would take any combo box for a ValueBox.
+    Screen screen;
+    for (int const tab : tabs) screen.choose_tab(tab);
+    std::set<std::string> names;
+    for (QObject const* const object : screen.window.findChildren<QObject*>()) {
+        std::unique_ptr<char, decltype(&std::free)> const name{
+            abi::__cxa_demangle(typeid(*object).name(), nullptr, nullptr, nullptr), &std::free};
+        if (!std::string_view{name.get()}.starts_with("warhost::")) continue;
+        names.insert(name.get());
+        EXPECT_STREQ(object->metaObject()->className(), name.get());
+    }
+    EXPECT_TRUE(names.contains("warhost::ValueBox"));
 }
 
 TEST(WindowLook, no_text_is_clipped_and_nothing_overlaps)
