@@ -1,4 +1,4 @@
-# What the shipped program is built with beyond its own care: checked stacks, buffers and jumps, addresses that cannot be
+# What the program is hardened with in every optimised build: checked stacks, buffers and jumps, addresses that cannot be
 # guessed, tables that cannot be written.
 include(CheckCXXCompilerFlag)
 include(CheckPIESupported)
@@ -6,8 +6,29 @@ include(CheckPIESupported)
 check_pie_supported()
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 
-if(CMAKE_BUILD_TYPE STREQUAL "Release" AND NOT WIN32)
-    add_compile_options(-fstack-protector-strong -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2)
+set(optimised_builds Release RelWithDebInfo MinSizeRel)
+set(hardened OFF)
+if(CMAKE_BUILD_TYPE IN_LIST optimised_builds AND NOT WARHOST_SANITIZE AND NOT WIN32)
+    set(hardened ON)
+endif()
+
+# fortified(VARIABLE): whether the compiler or the flags from outside define _FORTIFY_SOURCE, whose level then stays.
+function(fortified variable)
+    set(CMAKE_TRY_COMPILE_CONFIGURATION ${CMAKE_BUILD_TYPE})
+    try_compile(plain SOURCE_FROM_CONTENT fortified.cpp "#ifdef _FORTIFY_SOURCE\n#error\n#endif\nint main() {}\n" NO_CACHE)
+    if(plain)
+        set(${variable} OFF PARENT_SCOPE)
+    else()
+        set(${variable} ON PARENT_SCOPE)
+    endif()
+endfunction()
+
+if(hardened)
+    fortified(already_fortified)
+    if(NOT already_fortified)
+        add_compile_definitions(_FORTIFY_SOURCE=2)
+    endif()
+    add_compile_options(-fstack-protector-strong)
     foreach(flag -fstack-clash-protection -fcf-protection=full)
         string(MAKE_C_IDENTIFIER "has${flag}" has_flag)
         check_cxx_compiler_flag(${flag} ${has_flag})
