@@ -14,4 +14,10 @@ lintian --allow-root --display-info --pedantic --fail-on error,warning,info,peda
 dpkg-deb --extract "$made"/*.deb "$made/content"
 desktop-file-validate "$made"/content/usr/share/applications/*.desktop
 appstreamcli validate-tree --no-net "$made/content"
+# The files that the manual page and the licences name.
+named=$(zcat "$made"/content/usr/share/man/man6/warhost.6.gz | cat - "$made/content/usr/share/doc/warhost/copyright" |
+    grep -o '/[^ ]*/warhost/[a-z./]*')
+for path in $named; do
+    [ -e "$made/content$path" ] || { echo "The package names $path, which it does not contain."; exit 1; }
+done
 echo "$made"/*.deb
