@@ -11,11 +11,12 @@ build fuzz
 files=$(mktemp -d -p "$([ -w /dev/shm ] && echo /dev/shm || echo "${TMPDIR:-/tmp}")")
 trap 'rm -rf "$files"' EXIT
 export TMPDIR=$files
-for target in army modifier_list rich_text; do
+for source in fuzz/*_fuzz.cpp; do
+    target=$(basename "$source" _fuzz.cpp)
     learnt=build/fuzz/learnt/$target
     mkdir -p "$learnt"
     printf 'Fuzzing %s for %s seconds\n' "$target" "$1"
-    if ! build/fuzz/bin/${target}_fuzz -max_total_time="$1" -max_len=70000 -timeout=5 -rss_limit_mb=2048 \
+    if ! "build/fuzz/bin/${target}_fuzz" -max_total_time="$1" -max_len=70000 -timeout=5 -rss_limit_mb=2048 \
         -artifact_prefix="$learnt/" "$learnt" "fuzz/corpus/$target" 2>"$learnt.log"; then
         tail -40 "$learnt.log"
         exit 1
