@@ -2,9 +2,8 @@
 # building itself.
 # shellcheck shell=bash disable=SC2034
 
-packages_build=(
-    g++ cmake ninja-build libgtest-dev libgmock-dev libbenchmark-dev qt6-base-dev fonts-dejavu-core
-)
+packages_program=(g++ cmake ninja-build qt6-base-dev fonts-dejavu-core)
+packages_build=("${packages_program[@]}" libgtest-dev libgmock-dev libbenchmark-dev)
 packages_check=(
     clang-14 clang-format-14 clang-tidy-14 libclang-rt-14-dev git
     xvfb dbus at-spi2-core python3-pyatspi # the accessibility bus
@@ -17,16 +16,15 @@ packages_package=(
 )
 
 # install_packages NAME...: installs those of the Debian packages that are missing. Stops the script where that cannot
-# be done, saying what to install.
+# be done, saying what to install. On another system it goes on: what is missing shows when the build is configured.
 install_packages()
 {
     if ! command -v apt-get >/dev/null || ! command -v dpkg-query >/dev/null; then
-        # Here only a configured tree tells that everything was found.
-        [ ! -f build/release/build.ninja ] || return 0
-        printf 'This is not a Debian system. Please install what there corresponds to these Debian packages:\n' >&2
-        printf '    %s\n' "$@" >&2
-        printf 'Then configure with "cmake --preset release" and start again.\n' >&2
-        exit 1
+        if [ ! -f build/release/build.ninja ]; then
+            printf 'This is not a Debian system. Where something is missing, install what corresponds to:\n' >&2
+            printf '    %s\n' "$@" >&2
+        fi
+        return 0
     fi
 
     local package installed missing=()
@@ -54,14 +52,50 @@ install_packages()
     fi
 }
 
-# build PRESET: configures build/PRESET where that is needed and builds it; not a word when nothing has changed.
+# is_current TREE: whether it was made for these presets and this place.
+is_current()
+{
+    [ "$1/build.ninja" -nt CMakePresets.json ] && grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$PWD" "$1/CMakeCache.txt"
+}
+
+# check_writable TREE: stops the script where the tree cannot be written to.
+check_writable()
+{
+    if ! mkdir -p "$1" 2>/dev/null || [ ! -w "$1" ]; then
+        printf 'Cannot write to %s: build in a copy of the source that you can write to.\n' "$PWD/$1" >&2
+        exit 1
+    fi
+}
+
+# configure PRESET OPTION...: runs cmake for build/PRESET.
+configure()
+{
+    cmake --preset "$@"
+}
+
+run_ninja()
+{
+    ninja -C "$@" | sed -u '/^ninja: Entering directory/d; /Re-checking globbed dir/d; /^ninja: no work to do/d'
+}
+
+# build PRESET: configures build/PRESET where that is needed and builds it; prints nothing when nothing has changed.
 build()
 {
     local tree=build/$1
-    # A tree that was made for other presets, or for another place, begins afresh.
-    if ! [ "$tree/build.ninja" -nt CMakePresets.json ] ||
-        ! grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$PWD" "$tree/CMakeCache.txt"; then
-        cmake --fresh --preset "$1"
+    check_writable "$tree"
+    if ! is_current "$tree"; then
+        configure "$1" --fresh
+    elif grep -qxF BUILD_TESTING:BOOL=OFF "$tree/CMakeCache.txt"; then
+        configure "$1" # the preset turns on what build_program left out
     fi
-    ninja -C "$tree" | sed -u '/^ninja: Entering directory/d; /Re-checking globbed dir/d; /^ninja: no work to do/d'
+    run_ninja "$tree"
+}
+
+# build_program: in build/release, what ./run starts. A tree without tests needs none of their libraries; one that has
+# them keeps them.
+build_program()
+{
+    check_writable build/release
+    is_current build/release || configure release --fresh -DBUILD_TESTING=OFF -DWARHOST_BENCH=OFF
+    run_ninja build/release warhost fight
 }
