@@ -10,10 +10,8 @@ packages_check=(
     locales
 )
 packages_windows=(cmake ninja-build googletest g++-mingw-w64-x86-64-posix wine wine64)
-packages_package=(
-    dpkg-dev lintian desktop-file-utils appstream
-    mmdebstrap xvfb xdotool # the package installed
-)
+packages_package=(dpkg-dev lintian desktop-file-utils appstream)
+packages_package_check=(mmdebstrap xvfb xdotool)
 
 # install_packages NAME...: installs those of the Debian packages that are missing. Stops the script where that cannot
 # be done, saying what to install. On another system it goes on: what is missing shows when the build is configured.
@@ -52,6 +50,26 @@ install_packages()
     fi
 }
 
+# make_debian CODENAME FOLDER PACKAGES: a clean Debian in the folder, with its essential packages and those named, from
+# where this machine takes its own. PACKAGES are separated by commas. Fails where none can be made. Needs root and
+# mmdebstrap.
+# shellcheck disable=SC2016,SC1091 # apt's own variables; the system's own file
+make_debian()
+{
+    local here
+    here=$(. /etc/os-release && echo "$VERSION_CODENAME")
+    rm -rf --one-file-system "$2"
+    apt-get -qq update &&
+        apt-get indextargets --format 'deb $(REPO_URI) $(RELEASE) $(COMPONENT)' 'Created-By: Packages' 'Origin: Debian' |
+        sed "s/ $here/ $1/" | sort -u | mmdebstrap --quiet --variant=essential --include="$3" "$1" "$2" -
+}
+
+# mounts_allowed: whether processes here can have mounts of their own.
+mounts_allowed()
+{
+    [ "$(id -u)" -eq 0 ] && unshare --mount-proc --fork true 2>/dev/null
+}
+
 # is_current TREE: whether it was made for these presets and this place.
 is_current()
 {
@@ -70,6 +88,8 @@ check_writable()
 # configure PRESET OPTION...: runs cmake for build/PRESET.
 configure()
 {
+    # Where ccache is installed, what was compiled once is not compiled again.
+    export CMAKE_CXX_COMPILER_LAUNCHER=${CMAKE_CXX_COMPILER_LAUNCHER-$(command -v ccache || true)}
     cmake --preset "$@"
 }
 

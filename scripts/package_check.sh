@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Installs the package that scripts/package.sh made into a clean Debian, uses the program there as an ordinary user,
-# removes it, and fails if anything is left. Needs root. The clean Debian stays in build/debian for the next time; where
-# none can be made, the exit status is 77.
+# package_check.sh [PACKAGE CODENAME]: installs the package (the one that scripts/package.sh made) into a clean Debian (of
+# this machine's release), uses the program there as an ordinary user, removes it, and fails if anything is left. Needs
+# root. The clean Debian stays in build/clean for the next time; where none can be made, the exit status is 77.
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
 source scripts/install.sh
@@ -10,10 +10,12 @@ if [ "$(id -u)" -ne 0 ]; then
     echo 'Please run this as root: it installs the package into a Debian of its own.' >&2
     exit 1
 fi
-install_packages "${packages_package[@]}"
-package=$(echo build/package/*.deb)
+install_packages "${packages_package[@]}" "${packages_package_check[@]}"
+package=${1:-$(echo build/package/*.deb)}
+# shellcheck disable=SC1091 # the system's own file
+codename=${2:-$(. /etc/os-release && echo "$VERSION_CODENAME")}
 depends=$(dpkg-deb --field "$package" Depends)
-debian=build/debian
+debian=build/clean/$codename
 home=/home/player
 player=65534
 export PKGSYSTEM_ENABLE_FSYNC=0 # the MIME database need not survive a power cut
@@ -25,19 +27,10 @@ listing()
     find "$debian" -printf '%P %M %u %g %l\n' | LC_ALL=C sort
 }
 
-# The essential packages and those that ours depends on, from where this machine takes its own.
-# shellcheck disable=SC2016,SC1091 # apt's own variables; the system's own file
-make_debian()
-{
-    apt-get -qq update &&
-        apt-get indextargets --format 'deb $(REPO_URI) $(RELEASE) $(COMPONENT)' 'Created-By: Packages' 'Origin: Debian' |
-        mmdebstrap --quiet --variant=essential --include="$(sed 's/ ([^)]*)//g; s/ |[^,]*//g; s/ //g' <<<"$depends")" \
-            "$(. /etc/os-release && echo "$VERSION_CODENAME")" "$debian" -
-}
-
 if [ "$(head -n 1 "$debian.list" 2>/dev/null)" != "$depends" ]; then
-    rm -rf --one-file-system "$debian" "$debian.list"
-    if ! make_debian; then
+    rm -f "$debian.list"
+    mkdir -p build/clean
+    if ! make_debian "$codename" "$debian" "$(sed 's/ ([^)]*)//g; s/ |[^,]*//g; s/ //g' <<<"$depends")"; then
         echo 'Here no clean Debian can be made to try the package in.' >&2
         exit 77
     fi
