@@ -38,11 +38,11 @@ void Main::connect_handlers()
         txtUnitNum(row).Change = [this, row] { txtUnitNum_Change(row); };
     }
     for (auto& [Index, button] : opt) {
-        button.Click = [this, Index = Index] { opt_Click(Index); };
+        button.Click = [this, which = Index] { opt_Click(which); };
     }
     for (auto& [Index, result] : cmbOpt) {
-        result.Change = [this, Index = Index] { cmbOpt_Change(Index); };
-        result.Click = [this, Index = Index] { cmbOpt_Click(Index); };
+        result.Change = [this, which = Index] { cmbOpt_Change(which); };
+        result.Click = [this, which = Index] { cmbOpt_Click(which); };
     }
     cmbLevel.Change = [this] { cmbLevel_Change(); };
     cmbLevel.Click = [this] { cmbLevel_Click(); };

@@ -46,7 +46,7 @@ TEST(Dialogs, take_enter_for_the_default_answer_and_do_no_harm_on_escape)
                                                         {Buttons::abort_retry_ignore, Answer::abort, Answer::ignore}};
     for (auto const& [buttons, by_enter, by_escape] : rows) {
         for (auto const& [key, answer] : {std::pair{Qt::Key_Enter, by_enter}, {Qt::Key_Escape, by_escape}}) {
-            answer_next_box([key = key](QWidget& box) { QTest::keyClick(&box, key); });
+            answer_next_box([pressed = key](QWidget& box) { QTest::keyClick(&box, pressed); });
             EXPECT_EQ(desktop.message_box({.text = "<b>&", .buttons = buttons, .default_answer = by_enter}), answer);
         }
     }
