@@ -5,7 +5,7 @@ namespace warhost {
 
 enum BattleWinner : int { side_a_won = 0, side_b_won = 1, tie = 2 };
 
-constexpr int winner_of(int ResultA, int ResultB)
+constexpr BattleWinner winner_of(int ResultA, int ResultB)
 {
     return ResultA > ResultB ? side_a_won : ResultA < ResultB ? side_b_won : tie;
 }
@@ -14,7 +14,7 @@ constexpr int winner_of(int ResultA, int ResultB)
 struct BattleState {
     int ResultA = 0;
     int ResultB = 0;
-    int Winner = side_a_won;
+    BattleWinner Winner = side_a_won;
     int WinMargin = 0;
     int CasRollBonus = 0;
     int LoserCasualty = 0; // percent

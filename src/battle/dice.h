@@ -1,20 +1,17 @@
 // What a random value turns into.
 #pragma once
 
-#include "battle/random.h"
-
 #include <cstdint>
-#include <type_traits>
 
 namespace warhost {
 
 /// A whole number, uniform over low to high, both included: floor(r x (high - low + 1)) + low, r one value of the
-/// source. low <= high.
+/// source. low <= high. A source that has draw() gives r times 2^32 by it.
 template <class Source> int roll_between(Source& random, int low, int high)
 {
     auto const count = static_cast<std::uint32_t>(high - low + 1);
-    if constexpr (std::is_same_v<Source, Generator>) {
-        // A value of 32 bits times a small count is exact in a double, so that integers give the same number; faster.
+    if constexpr (requires { random.draw(); }) {
+        // A value of 32 bits times a small count is exact in a double, so integers give the same number, and faster.
         return static_cast<int>((std::uint64_t{random.draw()} * count) >> 32U) + low;
     } else {
         return static_cast<int>(random.next() * count) + low;

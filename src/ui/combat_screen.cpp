@@ -15,8 +15,8 @@ namespace warhost {
 namespace {
 
 /// Whose rows take the loser's percentage, and whose the victor's: on a tie Side A's and Side B's.
-int loser_index(int Winner) { return Winner == side_a_won ? 1 : 0; }
-int victor_index(int Winner) { return 1 - loser_index(Winner); }
+int loser_index(BattleWinner Winner) { return Winner == side_a_won ? 1 : 0; }
+int victor_index(BattleWinner Winner) { return 1 - loser_index(Winner); }
 
 } // namespace
 

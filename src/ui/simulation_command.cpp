@@ -36,8 +36,8 @@ void Main::cmdSimulate_Click()
         left -= batch;
         quiet_step([&] { desktop_.show_progress(battles - left, battles); });
     }
-    // The last battle is fought on the screen, which then shows it whole. The others have left two texts there, which
-    // they have already accounted for.
+    // The last battle is fought on the screen, which then shows it whole. This sets the texts without running Change;
+    // the battles have already accounted for them.
     if (battles > 1) {
         quiet_step([&] {
             txtResult(1).set_text_silently(plain_text(simulation->carried_over().result_b));
@@ -49,10 +49,8 @@ void Main::cmdSimulate_Click()
         cmdRollCasualty_Click();
         cmdRollVictorCas_Click();
     }
-    quiet_step([&] {
-        auto const share = static_cast<std::size_t>(TextToInt(txtVictorCasPercent.text()));
-        simulation->tally().count(Tally::place_of(battle.Winner, battle.WinMargin) + share);
-    });
+    quiet_step(
+        [&] { simulation->tally().count(battle.Winner, battle.WinMargin, TextToInt(txtVictorCasPercent.text())); });
     quiet_step([&] {
         Tally const& tally = simulation->tally();
         desktop_.show_report(

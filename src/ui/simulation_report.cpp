@@ -26,13 +26,12 @@ std::string margin_text(double margin, NumberFormat const& format)
 
 std::string simulation_report(Tally const& tally, NumberFormat const& format)
 {
-    auto const battles = static_cast<double>(tally.battles());
-    auto const share = [&](int winner) {
-        return one_decimal(static_cast<double>(tally.won_by(winner)) / battles * 100, format) + "% of the time\r\n";
+    auto const share = [&](BattleWinner winner) {
+        return one_decimal(tally.percent_won(winner), format) + "% of the time\r\n";
     };
-    auto const side = [&](int Index, int winner) {
+    auto const side = [&](int Index, BattleWinner winner) {
         return "   Wins: " + share(winner) +
-               "   Average casualties: " + one_decimal(tally.casualties(Index) / battles, format) + "%\r\n";
+               "   Average casualties: " + one_decimal(tally.mean_casualties(Index), format) + "%\r\n";
     };
     return "Battle Results\r\n"
            "--------------\r\n"

@@ -21,13 +21,13 @@ TEST(Simulation, agrees_with_the_exact_odds_in_the_long_run)
         Simulation simulation{a, b, {}};
         simulation.fight(generator, battles);
         Tally const& tally = simulation.tally();
-        for (int const winner : {side_a_won, side_b_won, tie}) {
-            double const won = static_cast<double>(tally.won_by(winner)) * 100 / battles, percent = wins[winner];
+        for (auto const winner : {side_a_won, side_b_won, tie}) {
+            double const won = tally.percent_won(winner), percent = wins[winner];
             EXPECT_NEAR(won, percent, 4.5 * std::sqrt(percent * (100 - percent) / battles)) << winner;
         }
         for (int const Index : {0, 1}) {
             double const error = tally.casualty_margin(Index) / 1.96;
-            EXPECT_NEAR(tally.casualties(Index) / battles, casualties[Index], 4.5 * error) << Index;
+            EXPECT_NEAR(tally.mean_casualties(Index), casualties[Index], 4.5 * error) << Index;
         }
     }
 }
@@ -35,11 +35,11 @@ TEST(Simulation, agrees_with_the_exact_odds_in_the_long_run)
 TEST(Tally, sums_what_each_side_suffered)
 {
     Tally tally;
-    for (int i = 0; i < 3; ++i) tally.count(Tally::place_of(side_a_won, 11) + 37); // 45% and 16.65%
-    tally.count(Tally::place_of(tie, 0) + 100);
-    EXPECT_DOUBLE_EQ(tally.casualties(0), 3.0 * 16.65F + 10);
-    EXPECT_DOUBLE_EQ(tally.casualties(1), 3 * 45 + 10);
-    EXPECT_EQ(std::pair(tally.histogram(0)[17], tally.histogram(1)[10]), std::pair(std::int64_t{3}, std::int64_t{1}));
+    for (int i = 0; i < 3; ++i) tally.count(side_a_won, 11, 37); // 45% and 16.65%
+    for (int const share : {-7, 32000}) tally.count(tie, 0, share);
+    EXPECT_DOUBLE_EQ(tally.mean_casualties(0), (3.0 * 16.65F + 2 * 10) / 5);
+    EXPECT_DOUBLE_EQ(tally.mean_casualties(1), (3 * 45 + 0 + 11) / 5.0);
+    EXPECT_EQ(std::pair(tally.histogram(0)[17], tally.histogram(1)[11]), std::pair(std::int64_t{3}, std::int64_t{1}));
 }
 
 } // namespace warhost

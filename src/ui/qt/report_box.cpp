@@ -32,14 +32,13 @@ ReportBox::ReportBox(MessageBox const& report, Tally const& tally, NumberFormat 
     if (parent != nullptr) setFont(parent->font()); // the window may have fitted it to the screen
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
 
-    auto const battles = static_cast<double>(tally.battles());
     auto const percent = [&](double value) { return to_qt(one_decimal(value, format)); };
-    auto const part = [&](int winner, QString const& what, Qt::BrushStyle pattern) {
-        double const share = 100 * static_cast<double>(tally.won_by(winner)) / battles;
+    auto const part = [&](BattleWinner winner, QString const& what, Qt::BrushStyle pattern) {
+        double const share = tally.percent_won(winner);
         return OutcomePart{what + " " + percent(share) + "%", share, pattern};
     };
     auto const histogram = [&](int Index, QString const& side) {
-        double const mean = tally.casualties(Index) / battles;
+        double const mean = tally.mean_casualties(Index);
         return new CasualtyHistogram{side, tally.histogram(Index), mean, percent(mean)};
     };
 

@@ -293,9 +293,9 @@ TEST(Dialogs, the_report_draws_who_won)
 {
     QtDesktop desktop;
     std::array<std::ptrdiff_t, 2> bars{};
-    for (int const winner : {side_a_won, tie}) {
+    for (auto const winner : {side_a_won, tie}) {
         Tally tally;
-        tally.count(Tally::place_of(winner, winner == tie ? 0 : 5));
+        tally.count(winner, winner == tie ? 0 : 5, 0);
         answer_next_box([&](QWidget& box) {
             QImage const picture = box.grab().toImage();
             auto const* const dots = reinterpret_cast<QRgb const*>(picture.constBits());

@@ -1,0 +1,122 @@
+// The battle laid out on integers, on which stand the simulation (sampled) and the odds (exact).
+#pragma once
+
+#include "battle/battle_state.h"
+#include "battle/dice.h"
+#include "battle/outcome_table.h"
+#include "battle/victor_table.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+
+namespace warhost {
+
+/// The two boxes as bits.
+using Boxes = unsigned;
+inline constexpr Boxes minus5_box = 1;
+inline constexpr Boxes plus5_box = 2;
+inline constexpr std::size_t box_states = 4;
+
+inline constexpr int highest_bonus = casualty_roll_bonus(outcome_table.back().last);
+
+constexpr Boxes box_bit(Box box) { return box == Box::minus5 ? minus5_box : box == Box::plus5 ? plus5_box : 0; }
+
+constexpr int bonus_with(int bonus, Boxes boxes)
+{
+    return effective_bonus(bonus, (boxes & minus5_box) != 0, (boxes & plus5_box) != 0);
+}
+
+constexpr VictorRow const* row_of(int roll, int bonus, Boxes boxes)
+{
+    return victor_row_of({roll, roll - bonus_with(bonus, boxes), (boxes & minus5_box) != 0, (boxes & plus5_box) != 0});
+}
+
+/// The victor's table for a die, a bonus and the boxes as they stand.
+struct Judgement {
+    std::uint8_t low;
+    std::uint8_t span;  // numbers in the range
+    std::uint8_t boxes; // afterwards
+    std::int8_t roll;
+};
+
+constexpr std::size_t judgement_index(unsigned bonus, Boxes boxes, unsigned die)
+{
+    return (bonus * box_states + boxes) * die_sides + die - 1;
+}
+
+inline constexpr auto judgements = [] {
+    std::array<Judgement, (highest_bonus + 1) * box_states * die_sides> table{};
+    for (int bonus = 0; bonus <= highest_bonus; ++bonus) {
+        for (Boxes boxes = 0; boxes < box_states; ++boxes) {
+            for (int die = 1; die <= die_sides; ++die) {
+                int const roll = die + bonus_with(bonus, boxes);
+                VictorRow const& row = *row_of(roll, bonus, boxes);
+                table.at(judgement_index(static_cast<unsigned>(bonus), boxes, static_cast<unsigned>(die))) = {
+                    static_cast<std::uint8_t>(row.low), static_cast<std::uint8_t>(row.high - row.low + 1),
+                    static_cast<std::uint8_t>(boxes | box_bit(row.box)), static_cast<std::int8_t>(roll)};
+            }
+        }
+    }
+    return table;
+}();
+
+/// The rolls that a battle can show.
+inline constexpr int lowest_roll = 1 + bonus_with(0, minus5_box);
+inline constexpr int highest_roll = die_sides + bonus_with(highest_bonus, plus5_box);
+
+constexpr std::size_t shown_index(int roll, Boxes boxes)
+{
+    return static_cast<unsigned>(roll - lowest_roll) * box_states + boxes;
+}
+
+/// The boxes after a tie has evaluated the roll shown from before, which it does with a bonus of 0.
+inline constexpr auto boxes_after_shown = [] {
+    std::array<std::uint8_t, (highest_roll - lowest_roll + 1) * box_states> table{};
+    for (int roll = lowest_roll; roll <= highest_roll; ++roll) {
+        for (Boxes boxes = 0; boxes < box_states; ++boxes) {
+            table.at(shown_index(roll, boxes)) =
+                static_cast<std::uint8_t>(boxes | box_bit(row_of(roll, 0, boxes)->box));
+        }
+    }
+    return table;
+}();
+// A roll beyond them may count as the nearer end: both ends check no box, and no more does a roll beyond.
+static_assert(boxes_after_shown.front() == 0 && boxes_after_shown.at(shown_index(highest_roll, 0)) == 0);
+
+/// A pair of dice: who wins by how much, and the bonus that the margin earns.
+struct Meeting {
+    BattleWinner winner;
+    int margin;
+    int bonus;
+};
+
+/// Both sides' results by die, as read from the combat screen.
+struct Results {
+    static constexpr int read_limit = 32000;
+
+    std::array<std::int16_t, die_sides> a{};
+    std::array<std::int16_t, die_sides> b{};
+
+    /// Total modifiers -32000 to 32000.
+    Results(int modifier_a, int modifier_b)
+    {
+        auto const as_read = [](int modifier, std::size_t die) {
+            return static_cast<std::int16_t>(std::clamp(modifier + static_cast<int>(die) + 1, -read_limit, read_limit));
+        };
+        for (std::size_t die = 0; die < die_sides; ++die) {
+            a.at(die) = as_read(modifier_a, die);
+            b.at(die) = as_read(modifier_b, die);
+        }
+    }
+
+    Meeting meeting(std::size_t die_a, std::size_t die_b) const
+    {
+        int const margin = std::abs(a.at(die_a) - b.at(die_b));
+        return {winner_of(a.at(die_a), b.at(die_b)), margin, casualty_roll_bonus(margin)};
+    }
+};
+
+} // namespace warhost
