@@ -1,6 +1,8 @@
-// The simulation against a loop that only makes as many draws and turns each into a die.
+// The simulation against a loop that only makes as many draws and turns each into a die; and the exact odds, which must
+// be known before anybody notices: within 2 ms.
 
 #include "battle/dice.h"
+#include "battle/odds.h"
 #include "battle/simulation.h"
 
 #include <benchmark/benchmark.h>
@@ -62,6 +64,16 @@ void simulate(benchmark::State& state)
 }
 
 BENCHMARK(simulate)->Args({0, 0})->Args({3, 1})->Args({10, 0})->Args({25, 0})->UseManualTime()->Iterations(30);
+
+void solve(benchmark::State& state)
+{
+    for (auto _ : state) {
+        Odds const odds{static_cast<int>(state.range(0)), static_cast<int>(state.range(1))};
+        benchmark::DoNotOptimize(odds.total());
+    }
+}
+
+BENCHMARK(solve)->Args({0, 0})->Args({10, 0})->Args({25, 0})->Args({32000, 32000})->Unit(benchmark::kMillisecond);
 
 } // namespace
 
