@@ -3,6 +3,7 @@
 #include "army/modifier_options.h"
 #include "ui/main.h"
 #include "ui/rich_text_reader.h"
+#include "ui/simulation_report.h"
 
 #include <charconv>
 #include <chrono>
@@ -45,6 +46,11 @@ public:
         }
         (box.icon == Icon::exclamation ? std::cerr : std::cout) << text << '\n';
         return Answer::ok;
+    }
+    void show_report(MessageBox const& report, Tally const& /*tally*/, Odds const& odds) override
+    {
+        message_box(report);
+        std::cout << long_run_text(odds, number_format()) << '\n';
     }
     std::string input_box(InputBox const& box) override { return box.default_text; }
     std::optional<std::string> file_dialog(FileDialog const& /*dialog*/) override

@@ -25,9 +25,9 @@ public:
 
     std::optional<std::string> file_dialog(FileDialog const& /*dialog*/) override { return army; }
     std::string input_box(InputBox const& /*box*/) override { return "100000"; }
-    void show_report(MessageBox const& report, Tally const& tally) override
+    void show_report(MessageBox const& report, Tally const& tally, Odds const& odds) override
     {
-        ReportBox box{report, tally, number_format(), nullptr};
+        ReportBox box{report, tally, odds, number_format(), nullptr};
         take(box, "simulation_report");
     }
     NumberFormat number_format() override { return {}; }

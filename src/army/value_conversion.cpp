@@ -173,6 +173,15 @@ std::string SignedText(std::int64_t n) { return (n < 0 ? "" : "+") + plain_text(
 
 std::string plain_text(std::int64_t n) { return std::to_string(n); }
 
+std::string grouped_text(std::int64_t n, NumberFormat const& format)
+{
+    std::string text = plain_text(n);
+    for (auto end = static_cast<std::ptrdiff_t>(text.size()) - 3; end > 0; end -= 3) {
+        text.insert(static_cast<std::size_t>(end), format.group);
+    }
+    return text;
+}
+
 std::string with_decimal_separator(std::string number, NumberFormat const& format)
 {
     if (auto const point = number.find('.'); point != std::string::npos) number.replace(point, 1, format.decimal);

@@ -37,6 +37,9 @@ std::string SignedText(std::int64_t n);
 /// Plain decimal digits, "-" in front of a negative number.
 std::string plain_text(std::int64_t n);
 
+/// Plain decimal digits in groups of three, with the regional separator between them. n is not negative.
+std::string grouped_text(std::int64_t n, NumberFormat const& format);
+
 /// A number with "." between its digits as the region writes it.
 std::string with_decimal_separator(std::string number, NumberFormat const& format);
 

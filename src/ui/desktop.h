@@ -50,6 +50,7 @@ struct ClientArea {
     double height = 0;
 };
 
+class Odds;
 class Tally;
 
 class Desktop {
@@ -61,8 +62,11 @@ public:
 
     virtual Answer message_box(MessageBox const& box) = 0;
 
-    /// Shows the report of a simulation; its box may show the tally's picture beside the text.
-    virtual void show_report(MessageBox const& report, Tally const& /*tally*/) { message_box(report); }
+    /// Shows the report of a simulation; its box may show the tally and the exact odds beside the text.
+    virtual void show_report(MessageBox const& report, Tally const& /*tally*/, Odds const& /*odds*/)
+    {
+        message_box(report);
+    }
 
     /// A simulation has fought so many of its battles; called every few milliseconds, the last time with all of them.
     /// The user gets no control.

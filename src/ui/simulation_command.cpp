@@ -1,3 +1,4 @@
+#include "battle/odds.h"
 #include "battle/simulation.h"
 #include "ui/main.h"
 #include "ui/simulation_report.h"
@@ -23,9 +24,13 @@ void Main::cmdSimulate_Click()
     if (!asked) return;
     std::int32_t battles = 0;
     std::optional<Simulation> simulation;
+    std::optional<Odds> odds;
     quiet_step([&] {
         battles = std::max(TextToLong(answer), 1);
-        simulation.emplace(TextToInt(txtTotalMod(0).text()), TextToInt(txtTotalMod(1).text()),
+        int const modifier_a = TextToInt(txtTotalMod(0).text());
+        int const modifier_b = TextToInt(txtTotalMod(1).text());
+        odds.emplace(modifier_a, modifier_b);
+        simulation.emplace(modifier_a, modifier_b,
                            CarriedOver{TextToInt(txtResult(1).text()), TextToInt(txtVictorCasRoll.text())});
     });
     if (!simulation) return;
@@ -54,7 +59,7 @@ void Main::cmdSimulate_Click()
     quiet_step([&] {
         Tally const& tally = simulation->tally();
         desktop_.show_report(
-            {.text = simulation_report(tally, desktop_.number_format()), .title = "Warhost Simulation"}, tally);
+            {.text = simulation_report(tally, desktop_.number_format()), .title = "Warhost Simulation"}, tally, *odds);
     });
 }
 

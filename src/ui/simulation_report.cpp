@@ -46,12 +46,26 @@ std::string simulation_report(Tally const& tally, NumberFormat const& format)
            share(tie) + "\r\n";
 }
 
-std::string simulation_margin(Tally const& tally, NumberFormat const& format)
+std::string sample_text(Tally const& tally, NumberFormat const& format)
 {
     double const casualties =
         std::min<double>(std::max(tally.casualty_margin(0), tally.casualty_margin(1)), highest_share);
-    return "95 times in 100, wins and ties are at most " + margin_text(share_margin(tally.battles()), format) +
-           " points off, average casualties at most " + margin_text(casualties, format) + ".";
+    return battles_text(tally.battles(), format) + "; 95 % confidence: wins and ties within " +
+           margin_text(share_margin(tally.battles()), format) + " points, average casualties within " +
+           margin_text(casualties, format);
+}
+
+std::string long_run_text(Odds const& odds, NumberFormat const& format)
+{
+    auto const won = [&](BattleWinner winner) { return one_decimal(odds.percent_won(winner), format) + "%"; };
+    auto const loses = [&](int Index) { return one_decimal(odds.mean_casualties(Index), format) + "%"; };
+    return "In the long run: Side A wins " + won(side_a_won) + ", Side B wins " + won(side_b_won) + ", tied " +
+           won(tie) + "; casualties " + loses(0) + " and " + loses(1);
+}
+
+std::string battles_text(std::int64_t battles, NumberFormat const& format)
+{
+    return grouped_text(battles, format) + (battles == 1 ? " battle" : " battles");
 }
 
 } // namespace warhost

@@ -105,17 +105,27 @@ TEST(SimulateCommand, has_a_fingerprint)
     EXPECT_EQ(random.next(), 1431769798 * 0x1p-32);
 }
 
-TEST(SimulateCommand, says_how_far_its_numbers_may_be_off)
+TEST(SimulateCommand, says_the_exact_odds_and_how_far_the_sample_may_be_off)
 {
-    std::pair<int, char const*> const cases[] = {
-        {1, "95 times in 100, wins and ties are at most 98 points off, average casualties at most 108."},
+    std::string const even =
+        "In the long run: Side A wins 47,5%, Side B wins 47,5%, tied 5,0%; casualties 16,1% and 16,1%";
+    struct {
+        std::string battles, modifier_a, modifier_b, long_run, sample;
+    } const rows[] = {
+        {"1", "3", "1", "In the long run: Side A wins 57,3%, Side B wins 38,3%, tied 4,5%; casualties 13,8% and 19,1%",
+         "1 battle; 95 % confidence: wins and ties within 98 points, average casualties within 108"},
         // 98 / sqrt(10000); a side's casualties vary by some 14 points from battle to battle.
-        {10000, "95 times in 100, wins and ties are at most 0,98 points off, average casualties at most 0,"}};
-    for (auto const& [battles, text] : cases) {
-        Simulation simulation{0, 0, {}};
-        Generator generator{5};
-        simulation.fight(generator, battles);
-        EXPECT_EQ(simulation_margin(simulation.tally(), {",", "."}).substr(0, std::string{text}.size()), text);
+        {"10000", "none", "", even,
+         "10.000 battles; 95 % confidence: wins and ties within 0,98 points, average casualties within 0,"}};
+    for (auto const& row : rows) {
+        Fighter fighter{{}, 5};
+        fighter.desktop.format = {",", "."};
+        fighter.form.txtTotalMod(0).set_text(row.modifier_a);
+        fighter.form.txtTotalMod(1).set_text(row.modifier_b);
+        fighter.desktop.typed = row.battles;
+        fighter.form.cmdSimulate.press();
+        EXPECT_EQ(fighter.desktop.beside_report[0], row.long_run);
+        EXPECT_EQ(fighter.desktop.beside_report[1].substr(0, row.sample.size()), row.sample);
     }
 }
 

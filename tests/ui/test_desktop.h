@@ -5,6 +5,7 @@
 #include "temporary_folder.h"
 #include "ui/desktop.h"
 #include "ui/main.h"
+#include "ui/simulation_report.h"
 
 #include <array>
 #include <clocale>
@@ -31,7 +32,8 @@ public:
     std::function<void()> while_waiting; // runs while a file dialog is open, and while a file is waited for
     std::string typed;
     std::optional<std::string> chosen;
-    std::vector<std::string> requests; // everything else that was asked for
+    std::array<std::string, 2> beside_report; // the lines on the long run and on the sample
+    std::vector<std::string> requests;        // everything else that was asked for
     NumberFormat format;
     bool is_minimized = false;
     ClientArea client{12840, 9600};
@@ -76,6 +78,11 @@ public:
     [[noreturn]] void end_program() override { throw ProgramEnded{}; }
     NumberFormat number_format() override { return format; }
     std::string program_directory() override { return directory; }
+    void show_report(MessageBox const& report, Tally const& tally, Odds const& odds) override
+    {
+        beside_report = {long_run_text(odds, format), sample_text(tally, format)};
+        message_box(report);
+    }
     void show_progress(std::int32_t fought, std::int32_t battles) override
     {
         noted(std::to_string(fought) + " of " + std::to_string(battles), true);

@@ -1,11 +1,13 @@
 #include "ui/qt/battle_charts.h"
 
+#include "army/armies.h"
+#include "ui/qt/text.h"
+
 #include <QLocale>
 #include <QPainter>
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 namespace warhost {
 
@@ -30,27 +32,30 @@ void prefer_fixed_height(QWidget& widget) { widget.setSizePolicy(QSizePolicy::Ex
 
 } // namespace
 
-CasualtyHistogram::CasualtyHistogram(QString const& side, std::array<std::int64_t, highest_share + 1> const& battles,
-                                     double mean, QString const& mean_text, QWidget* parent)
+CasualtyHistogram::CasualtyHistogram(int Index, Tally const& tally, Odds const& odds, NumberFormat const& format,
+                                     QWidget* parent)
     : QWidget(parent),
-      title_(side + " casualties: share of the battles by percent lost"),
-      mean_text_(mean_text),
-      mean_(mean)
+      title_(to_qt(side_name(Index)) + " casualties: share of the battles by percent lost (outline: in the long run)"),
+      mean_text_(to_qt(one_decimal(tally.mean_casualties(Index), format))),
+      mean_(tally.mean_casualties(Index))
 {
-    double all = 0;
-    for (auto const count : battles) all += static_cast<double>(count);
+    auto const battles = tally.histogram(Index);
+    auto const chances = odds.histogram(Index);
     for (std::size_t percent = 0; percent < battles.size(); ++percent) {
-        shares_.at(percent) = 100 * static_cast<double>(battles.at(percent)) / all;
+        shares_.at(percent) = 100 * static_cast<double>(battles.at(percent)) / static_cast<double>(tally.battles());
+        exact_.at(percent) = 100 * chances.at(percent);
     }
     auto const* const most = std::max_element(shares_.begin(), shares_.end());
-    step_ = round_step(*most);
-    steps_ = static_cast<int>(std::ceil(*most / step_));
+    double const highest = std::max(*most, *std::max_element(exact_.begin(), exact_.end()));
+    step_ = round_step(highest);
+    steps_ = static_cast<int>(std::ceil(highest / step_));
     prefer_fixed_height(*this);
     setAccessibleName(title_);
-    setAccessibleDescription(QString{"Histogram. Mean %1%. The most frequent loss is %2%, in %3% of the battles."}
-                                 .arg(mean_text)
+    setAccessibleDescription(QString{"Histogram. Mean %1%. The most frequent loss is %2%, in %3% of the battles. The "
+                                     "outline shows the long run."}
+                                 .arg(mean_text_)
                                  .arg(most - shares_.begin())
-                                 .arg(QLocale::system().toString(*most, 'f', 1)));
+                                 .arg(to_qt(one_decimal(*most, format))));
 }
 
 QSize CasualtyHistogram::sizeHint() const
@@ -66,6 +71,7 @@ void CasualtyHistogram::paintEvent(QPaintEvent* /*event*/)
     painter.drawText(QRect{0, 0, width(), fontMetrics().height()}, Qt::AlignLeft, title_);
     draw_axes(painter);
     draw_bars(painter);
+    draw_outline(painter);
     draw_mean(painter);
 }
 
@@ -119,6 +125,21 @@ void CasualtyHistogram::draw_bars(QPainter& painter) const
     }
 }
 
+/// Around the place of each bar, one pixel wide; losses that cannot happen have none.
+void CasualtyHistogram::draw_outline(QPainter& painter) const
+{
+    painter.setPen(QPen{palette().color(QPalette::WindowText), 0});
+    int const bottom = plot().bottom() + 1;
+    int before = bottom;
+    for (int percent = 0; percent <= highest_share + 1; ++percent) {
+        int const left = x_of(percent - 0.5) - 1;
+        int const top = percent <= highest_share ? y_of(exact_.at(static_cast<std::size_t>(percent))) : bottom;
+        if (before != top) painter.drawLine(left, before, left, top);
+        if (top < bottom) painter.drawLine(left, top, x_of(percent + 0.5) - 1, top);
+        before = top;
+    }
+}
+
 void CasualtyHistogram::draw_mean(QPainter& painter) const
 {
     QFontMetrics const metrics = fontMetrics();
@@ -131,11 +152,24 @@ void CasualtyHistogram::draw_mean(QPainter& painter) const
                      plot().top() - metrics.descent() - line / 8, label);
 }
 
-OutcomeBar::OutcomeBar(std::array<OutcomePart, 3> parts, QWidget* parent) : QWidget(parent), parts_(std::move(parts))
+OutcomeBar::OutcomeBar(Tally const& tally, NumberFormat const& format, QWidget* parent) : QWidget(parent)
 {
     prefer_fixed_height(*this);
     setAccessibleName("Wins and ties");
+    show_tally(tally, format);
+}
+
+void OutcomeBar::show_tally(Tally const& tally, NumberFormat const& format)
+{
+    auto const part = [&](BattleWinner winner, char const* what, Qt::BrushStyle pattern) {
+        double const share = tally.percent_won(winner);
+        return Part{QString{"%1 %2%"}.arg(what, to_qt(one_decimal(share, format))), share, pattern};
+    };
+    parts_ = {part(side_a_won, "Side A wins", Qt::SolidPattern), part(tie, "Tied", Qt::NoBrush),
+              part(side_b_won, "Side B wins", Qt::BDiagPattern)};
     setAccessibleDescription(parts_[0].label + ", " + parts_[1].label + ", " + parts_[2].label + ".");
+    updateGeometry();
+    update();
 }
 
 QSize OutcomeBar::sizeHint() const

@@ -1,6 +1,8 @@
-// The pictures under a simulation's report, drawn in the palette's colours at any scale.
+// The pictures of a simulation's report and progress, drawn in the palette's colours at any scale.
 #pragma once
 
+#include "army/value_conversion.h"
+#include "battle/odds.h"
 #include "battle/simulation.h"
 
 #include <QString>
@@ -10,14 +12,15 @@
 
 namespace warhost {
 
-/// The share of battles by the percentage that one side lost, 0 to 110, with the mean marked.
+/// The share of battles by the percentage that one side lost, 0 to 110: bars for the sample, with their mean marked,
+/// and an outline for the exact odds.
 class CasualtyHistogram : public QWidget {
     Q_OBJECT
 
 public:
-    /// mean_text: as the report's text writes it.
-    CasualtyHistogram(QString const& side, std::array<std::int64_t, highest_share + 1> const& battles, double mean,
-                      QString const& mean_text, QWidget* parent = nullptr);
+    /// Index: 0 for Side A, 1 for Side B. The mean is written as in the report's text.
+    CasualtyHistogram(int Index, Tally const& tally, Odds const& odds, NumberFormat const& format,
+                      QWidget* parent = nullptr);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
@@ -31,21 +34,16 @@ private:
     int y_of(double share) const;
     void draw_axes(QPainter& painter) const;
     void draw_bars(QPainter& painter) const;
+    void draw_outline(QPainter& painter) const;
     void draw_mean(QPainter& painter) const;
 
     QString title_;
     QString mean_text_;
     double mean_;
     std::array<double, highest_share + 1> shares_{}; // percent of the battles
+    std::array<double, highest_share + 1> exact_{};  // of all battles in the long run
     double step_ = 1; // percent of the battles from one line of the left axis to the next
     int steps_ = 0;
-};
-
-/// A part of the bar: one way in which the battles ended.
-struct OutcomePart {
-    QString label; // "Side A wins 47.5%"
-    double share;  // percent of the battles
-    Qt::BrushStyle pattern;
 };
 
 /// One bar for wins and ties; the parts are told apart by pattern and label, not by colour alone.
@@ -53,7 +51,10 @@ class OutcomeBar : public QWidget {
     Q_OBJECT
 
 public:
-    explicit OutcomeBar(std::array<OutcomePart, 3> parts, QWidget* parent = nullptr);
+    /// At least one battle.
+    OutcomeBar(Tally const& tally, NumberFormat const& format, QWidget* parent = nullptr);
+
+    void show_tally(Tally const& tally, NumberFormat const& format);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
@@ -62,7 +63,14 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    std::array<OutcomePart, 3> parts_;
+    /// One way in which the battles ended.
+    struct Part {
+        QString label;    // "Side A wins 47.5%"
+        double share = 0; // percent of the battles
+        Qt::BrushStyle pattern = Qt::NoBrush;
+    };
+
+    std::array<Part, 3> parts_;
 };
 
 } // namespace warhost

@@ -28,9 +28,9 @@ Answer QtDesktop::message_box(MessageBox const& box)
     return AnswerBox{box, dialog != nullptr ? dialog : window_}.ask();
 }
 
-void QtDesktop::show_report(MessageBox const& report, Tally const& tally)
+void QtDesktop::show_report(MessageBox const& report, Tally const& tally, Odds const& odds)
 {
-    ReportBox{report, tally, number_format(), window_}.exec();
+    ReportBox{report, tally, odds, number_format(), window_}.exec();
 }
 
 void QtDesktop::show_progress(std::int32_t fought, std::int32_t battles)

@@ -24,7 +24,7 @@ public:
     bool simulates() const { return progress_.has_value(); }
 
     Answer message_box(MessageBox const& box) override;
-    void show_report(MessageBox const& report, Tally const& tally) override;
+    void show_report(MessageBox const& report, Tally const& tally, Odds const& odds) override;
     void show_progress(std::int32_t fought, std::int32_t battles) override;
     void wait_for(std::function<void()> const& work) override;
     std::string input_box(InputBox const& box) override;

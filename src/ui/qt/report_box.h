@@ -1,6 +1,7 @@
-// The simulation's report: the text, how far it may be off, and its pictures.
+// The simulation's report: the text, its pictures, the exact odds, and how far the sample may be off.
 #pragma once
 
+#include "battle/odds.h"
 #include "battle/simulation.h"
 #include "ui/desktop.h"
 
@@ -14,7 +15,8 @@ class ReportBox : public QDialog {
     Q_OBJECT
 
 public:
-    ReportBox(MessageBox const& report, Tally const& tally, NumberFormat const& format, QWidget* parent);
+    ReportBox(MessageBox const& report, Tally const& tally, Odds const& odds, NumberFormat const& format,
+              QWidget* parent);
 };
 
 } // namespace warhost

@@ -1,4 +1,5 @@
 // The dialogs of the real window system, answered by keys.
+#include "battle/odds.h"
 #include "battle/simulation.h"
 #include "temporary_folder.h"
 #include "ui/qt/file_chooser.h"
@@ -303,7 +304,7 @@ TEST(Dialogs, the_report_draws_who_won)
             bars.at(winner == tie) = std::count(dots, dots + picture.sizeInBytes() / sizeof(QRgb), colour);
             QTest::keyClick(&box, Qt::Key_Enter);
         });
-        desktop.show_report({.text = "Battle Results", .title = "Warhost Simulation"}, tally);
+        desktop.show_report({.text = "Battle Results", .title = "Warhost Simulation"}, tally, Odds{0, 0});
     }
     EXPECT_GT(bars[0], 2 * bars[1]);
 }

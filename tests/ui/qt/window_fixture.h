@@ -42,7 +42,7 @@ public:
         answers.pop_front();
         return answer;
     }
-    void show_report(MessageBox const& report, Tally const&) override { message_box(report); }
+    void show_report(MessageBox const& report, Tally const&, Odds const&) override { message_box(report); }
     std::string input_box(InputBox const& box) override { return box.default_text; }
     std::optional<std::string> file_dialog(FileDialog const&) override { return path; }
     std::string program_directory() override { return directory_; }
