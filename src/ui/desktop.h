@@ -69,8 +69,8 @@ public:
     }
 
     /// A simulation has fought so many of its battles; called every few milliseconds, the last time with all of them.
-    /// The user gets no control.
-    virtual void show_progress(std::int32_t /*fought*/, std::int32_t /*battles*/) {}
+    /// The tally may lack the last battle. The user gets no control.
+    virtual void show_progress(std::int32_t /*fought*/, std::int32_t /*battles*/, Tally const& /*so_far*/) {}
 
     /// Runs work that waits for a disk or a network folder, and returns when it is done; what it throws is thrown here.
     /// The user is told when it takes long, and gets no control.

@@ -39,7 +39,7 @@ void Main::cmdSimulate_Click()
         std::int32_t const batch = std::min(left, batch_size);
         simulation->fight(random_, batch);
         left -= batch;
-        quiet_step([&] { desktop_.show_progress(battles - left, battles); });
+        quiet_step([&] { desktop_.show_progress(battles - left, battles, simulation->tally()); });
     }
     // The last battle is fought on the screen, which then shows it whole. This sets the texts without running Change;
     // the battles have already accounted for them.

@@ -83,7 +83,7 @@ public:
         beside_report = {long_run_text(odds, format), sample_text(tally, format)};
         message_box(report);
     }
-    void show_progress(std::int32_t fought, std::int32_t battles) override
+    void show_progress(std::int32_t fought, std::int32_t battles, Tally const& /*so_far*/) override
     {
         noted(std::to_string(fought) + " of " + std::to_string(battles), true);
     }

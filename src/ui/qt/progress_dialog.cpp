@@ -1,6 +1,7 @@
 #include "ui/qt/progress_dialog.h"
 
 #include <QCoreApplication>
+#include <QHBoxLayout>
 
 namespace warhost {
 
@@ -24,7 +25,12 @@ ProgressDialog::ProgressDialog(QWidget* window, QString const& title, QString co
     bar_.setMinimumWidth(fontMetrics().averageCharWidth() * 50);
     bar_.setAccessibleName(spoken);
     column_.addWidget(&bar_);
-    column_.addWidget(&text_);
+    bar_.setTextVisible(false);
+    auto* const texts = new QHBoxLayout;
+    texts->addWidget(&left_);
+    texts->addStretch();
+    texts->addWidget(&right_);
+    column_.addLayout(texts);
 }
 
 ProgressDialog::~ProgressDialog()
@@ -33,11 +39,12 @@ ProgressDialog::~ProgressDialog()
     if (focus_) focus_->setFocus(Qt::OtherFocusReason);
 }
 
-void ProgressDialog::show_share(double share, QString const& text)
+void ProgressDialog::show_share(double share, QString const& left, QString const& right)
 {
     bar_.setRange(0, share < 0 ? 0 : bar_steps);
     bar_.setValue(static_cast<int>(share * bar_steps));
-    text_.setText(text);
+    left_.setText(left);
+    right_.setText(right);
     show();
     // What the user does meanwhile is lost on this window, and does not wait for its end.
     QCoreApplication::processEvents();

@@ -19,17 +19,22 @@ public:
     ProgressDialog(QWidget* window, QString const& title, QString const& spoken);
     ~ProgressDialog() override;
 
-    /// share: of the whole, 0 to 1; below 0 it is unknown. The window is shown and painted before this returns.
-    void show_share(double share, QString const& text);
+    /// share: of the whole, 0 to 1; below 0 it is unknown. The texts stand left and right below the bar. The window is
+    /// shown and painted before this returns.
+    void show_share(double share, QString const& left, QString const& right = {});
 
     void reject() override {}
+
+protected:
+    QVBoxLayout& column() { return column_; }
 
 private:
     QPointer<QWidget> window_;
     QPointer<QWidget> focus_; // in the window, to be given back
     QVBoxLayout column_{this};
     QProgressBar bar_{this};
-    QLabel text_{this};
+    QLabel left_{this};
+    QLabel right_{this};
 };
 
 } // namespace warhost

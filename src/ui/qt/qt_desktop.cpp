@@ -33,10 +33,10 @@ void QtDesktop::show_report(MessageBox const& report, Tally const& tally, Odds c
     ReportBox{report, tally, odds, number_format(), window_}.exec();
 }
 
-void QtDesktop::show_progress(std::int32_t fought, std::int32_t battles)
+void QtDesktop::show_progress(std::int32_t fought, std::int32_t battles, Tally const& so_far)
 {
-    if (!progress_) progress_.emplace();
-    progress_->show(window_, fought, battles);
+    if (!progress_) progress_.emplace(window_, number_format());
+    progress_->show(fought, battles, so_far);
     if (fought == battles) progress_.reset();
 }
 

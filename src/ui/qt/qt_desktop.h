@@ -25,7 +25,7 @@ public:
 
     Answer message_box(MessageBox const& box) override;
     void show_report(MessageBox const& report, Tally const& tally, Odds const& odds) override;
-    void show_progress(std::int32_t fought, std::int32_t battles) override;
+    void show_progress(std::int32_t fought, std::int32_t battles, Tally const& so_far) override;
     void wait_for(std::function<void()> const& work) override;
     std::string input_box(InputBox const& box) override;
     std::optional<std::string> file_dialog(FileDialog const& dialog) override;

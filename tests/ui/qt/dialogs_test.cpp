@@ -13,7 +13,6 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QLineEdit>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
@@ -273,21 +272,6 @@ TEST(Dialogs, the_input_box_gives_the_text_and_nothing_when_cancelled)
         answer_next_box([key = key](QWidget& box) { QTest::keyClick(&box, key); });
         EXPECT_EQ(desktop.input_box({.prompt = "How many?", .title = "Simulate", .default_text = "1000"}), text);
     }
-}
-
-TEST(Dialogs, the_progress_is_shown_after_half_a_second_until_the_last_battle)
-{
-    QtDesktop desktop;
-    desktop.show_progress(1, 3);
-    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
-    QTest::qSleep(600);
-    desktop.show_progress(2, 3);
-    ASSERT_NE(QApplication::activeModalWidget(), nullptr);
-    auto const* const bar = QApplication::activeModalWidget()->findChild<QProgressBar*>();
-    EXPECT_EQ(100 * bar->value() / bar->maximum(), 66);
-    desktop.show_progress(3, 3);
-    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
-    EXPECT_FALSE(desktop.simulates());
 }
 
 TEST(Dialogs, the_report_draws_who_won)

@@ -1,9 +1,13 @@
-// What is shown of a simulation.
+// What is shown of a simulation while it runs and when it is done.
 #include "battle/odds.h"
 #include "ui/qt/battle_charts.h"
+#include "ui/qt/qt_desktop.h"
 #include "ui/qt/report_box.h"
 
+#include <QApplication>
 #include <QLabel>
+#include <QProgressBar>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -33,6 +37,24 @@ TEST(Report, shows_the_exact_odds_beside_its_text_and_around_the_bars)
         EXPECT_NE(shown.find(text), std::string::npos) << shown;
     auto const picture = [](Odds const& odds) { return CasualtyHistogram{0, one_tie(), odds, {}}.grab().toImage(); };
     EXPECT_NE(picture({0, 0}), picture({10, 0}));
+}
+
+TEST(SimulationProgress, shows_battles_percent_time_left_and_outcome_from_half_a_second_on)
+{
+    QtDesktop desktop;
+    desktop.show_progress(1, 400, one_tie());
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    QTest::qSleep(600);
+    desktop.show_progress(100, 400, one_tie());
+    ASSERT_NE(QApplication::activeModalWidget(), nullptr);
+    std::string const shown = words(*QApplication::activeModalWidget());
+    for (char const* const text : {"100 of 400 battles", "25%", " s left", "Tied 100"})
+        EXPECT_NE(shown.find(text), std::string::npos) << shown;
+    auto const* const bar = QApplication::activeModalWidget()->findChild<QProgressBar*>();
+    EXPECT_EQ(100 * bar->value() / bar->maximum(), 25);
+    desktop.show_progress(400, 400, one_tie());
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    EXPECT_FALSE(desktop.simulates());
 }
 
 } // namespace
