@@ -42,9 +42,12 @@ struct Judgement {
     std::int8_t roll;
 };
 
+/// Where in the table the judgements of all dice begin, a sum of what the bonus and what the boxes contribute.
+constexpr std::size_t judgements_from(unsigned bonus, Boxes boxes) { return (bonus * box_states + boxes) * die_sides; }
+
 constexpr std::size_t judgement_index(unsigned bonus, Boxes boxes, unsigned die)
 {
-    return (bonus * box_states + boxes) * die_sides + die - 1;
+    return judgements_from(bonus, boxes) + die - 1;
 }
 
 inline constexpr auto judgements = [] {
@@ -67,24 +70,28 @@ inline constexpr auto judgements = [] {
 inline constexpr int lowest_roll = 1 + bonus_with(0, minus5_box);
 inline constexpr int highest_roll = die_sides + bonus_with(highest_bonus, plus5_box);
 
-constexpr std::size_t shown_index(int roll, Boxes boxes)
-{
-    return static_cast<unsigned>(roll - lowest_roll) * box_states + boxes;
-}
-
-/// The boxes after a tie has evaluated the roll shown from before, which it does with a bonus of 0.
-inline constexpr auto boxes_after_shown = [] {
-    std::array<std::uint8_t, (highest_roll - lowest_roll + 1) * box_states> table{};
+/// The boxes that a tie checks when it evaluates the roll shown from before, which it does with a bonus of 0: by roll,
+/// from lowest_roll on.
+inline constexpr auto boxes_of_shown = [] {
+    std::array<std::uint8_t, highest_roll - lowest_roll + 1> table{};
     for (int roll = lowest_roll; roll <= highest_roll; ++roll) {
-        for (Boxes boxes = 0; boxes < box_states; ++boxes) {
-            table.at(shown_index(roll, boxes)) =
-                static_cast<std::uint8_t>(boxes | box_bit(row_of(roll, 0, boxes)->box));
-        }
+        table.at(static_cast<std::size_t>(roll - lowest_roll)) =
+            static_cast<std::uint8_t>(box_bit(row_of(roll, 0, 0)->box));
     }
     return table;
 }();
-// A roll beyond them may count as the nearer end: both ends check no box, and no more does a roll beyond.
-static_assert(boxes_after_shown.front() == 0 && boxes_after_shown.at(shown_index(highest_roll, 0)) == 0);
+// Any other roll may count as the nearer end: both ends check no box, and no more does a roll beyond them.
+static_assert(boxes_of_shown.front() == 0 && boxes_of_shown.back() == 0);
+// A battle whose first die ties may end in a tie, too, which evaluates the same roll again and checks no further box.
+static_assert([] {
+    for (int roll = lowest_roll; roll <= highest_roll; ++roll) {
+        Boxes const boxes = boxes_of_shown.at(static_cast<std::size_t>(roll - lowest_roll));
+        if ((box_bit(row_of(roll, 0, boxes)->box) | boxes) != boxes) return false;
+    }
+    return true;
+}());
+
+constexpr Boxes boxes_after_shown(int roll) { return boxes_of_shown[static_cast<unsigned>(roll - lowest_roll)]; }
 
 /// A pair of dice: who wins by how much, and the bonus that the margin earns.
 struct Meeting {
@@ -97,14 +104,14 @@ struct Meeting {
 struct Results {
     static constexpr int read_limit = 32000;
 
-    std::array<std::int16_t, die_sides> a{};
-    std::array<std::int16_t, die_sides> b{};
+    std::array<int, die_sides> a{};
+    std::array<int, die_sides> b{};
 
     /// Total modifiers -32000 to 32000.
     Results(int modifier_a, int modifier_b)
     {
         auto const as_read = [](int modifier, std::size_t die) {
-            return static_cast<std::int16_t>(std::clamp(modifier + static_cast<int>(die) + 1, -read_limit, read_limit));
+            return std::clamp(modifier + static_cast<int>(die) + 1, -read_limit, read_limit);
         };
         for (std::size_t die = 0; die < die_sides; ++die) {
             a.at(die) = as_read(modifier_a, die);

@@ -12,15 +12,6 @@ constexpr double two_dice = one_die * one_die;
 /// By the boxes that a tie would find checked after evaluating the roll shown: chances.
 using Shown = std::array<double, box_states>;
 
-// What a tie in the middle of a battle makes of the boxes, the tie at its end leaves.
-static_assert([] {
-    for (int roll = lowest_roll; roll <= highest_roll; ++roll) {
-        Boxes const once = boxes_after_shown.at(shown_index(roll, 0));
-        if (boxes_after_shown.at(shown_index(roll, once)) != once) return false;
-    }
-    return true;
-}());
-
 /// How the victor's rolls of one battle come out: the share of the loser's percentage, and what the last roll does to
 /// the boxes of the next battle.
 struct VictorRolls {
@@ -45,7 +36,7 @@ private:
     void weigh(Judgement const& judgement, double chance)
     {
         for (unsigned k = 0; k < judgement.span; ++k) share.at(judgement.low + k) += chance / judgement.span;
-        shown.at(boxes_after_shown.at(shown_index(judgement.roll, 0))) += chance;
+        shown.at(boxes_after_shown(judgement.roll)) += chance;
     }
 };
 

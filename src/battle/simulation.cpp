@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <type_traits>
 
 namespace warhost {
 
@@ -39,58 +40,61 @@ Simulation::Simulation(int modifier_a, int modifier_b, CarriedOver before)
         for (std::size_t b = 0; b < die_sides; ++b) {
             auto const [winner, margin, bonus] = results_.meeting(a, b);
             meetings_.at(a).at(b) = {static_cast<std::uint16_t>(Tally::place_of(winner, margin)),
-                                     static_cast<std::uint8_t>(bonus), winner == tie};
+                                     static_cast<std::uint16_t>(judgements_from(static_cast<unsigned>(bonus), 0)),
+                                     winner == tie};
         }
     }
 }
 
 void Simulation::fight(RandomSource& random, std::int32_t battles)
 {
-    if (auto* const generator = dynamic_cast<Generator*>(&random)) {
-        Generator local = *generator;
-        run(local, battles);
-        *generator = local;
-    } else {
-        run(random, battles);
-    }
+    if (auto* const generator = dynamic_cast<Generator*>(&random)) run(*generator, battles);
+    else run(random, battles);
 }
 
-template <class Source> void Simulation::run(Source& source, std::int32_t battles)
+template <class Source> void Simulation::run(Source& random, std::int32_t battles)
 {
-    auto const roll = [&] { return static_cast<unsigned>(roll_d20(source)); };
-    auto const share_of = [&](Meeting meeting, int low, int span) {
-        if (meeting.tie) [[unlikely]] { // the evaluation draws one percentage, the roll for it another
-            roll_between(source, tie_percent, tie_percent);
-            return roll_between(source, tie_percent, tie_percent);
+    // What every battle touches is a local variable, so that it stays in a register.
+    std::conditional_t<std::is_abstract_v<Source>, Source&, Source> source = random;
+    int result_b = carried_over_.result_b;
+    Judgement const before{0, 0, 0, static_cast<std::int8_t>(carried_over_.victor_roll)};
+    Judgement const* shown = &before;
+
+    auto const roll = [&] { return static_cast<std::size_t>(roll_d20(source) - 1); };
+    // A tie of the two results evaluates the victor's roll still shown from before, and draws the percentage, which can
+    // only be 100. Side A's new result meets Side B's old one first.
+    auto const evaluate_shown_roll = [&] {
+        roll_between(source, tie_percent, tie_percent);
+        return judgements_from(0, boxes_after_shown(shown->roll));
+    };
+    auto const share_of_tie = [&] { // the evaluation draws one percentage, the roll for it another
+        roll_between(source, tie_percent, tie_percent);
+        return roll_between(source, tie_percent, tie_percent);
+    };
+    auto const share_in_range = [&] { return roll_between(source, shown->low, shown->low + shown->span - 1); };
+    auto const roll_victor = [&](Meeting const& meeting, std::size_t of_boxes, auto const& draw_share) {
+        shown = &judgements[meeting.judgements + of_boxes + roll()];
+        int share = draw_share();
+        if (shown->boxes != 0) [[unlikely]] {
+            shown = &judgements[meeting.judgements + judgements_from(0, shown->boxes) + roll()];
+            share = draw_share();
         }
-        return roll_between(source, low, low + span - 1);
+        ++tally_.values[meeting.place + static_cast<unsigned>(share)];
     };
     for (std::int32_t fought = 0; fought < battles; ++fought) {
-        Boxes boxes = 0;
-        // A tie of the two results evaluates the victor's roll still shown from before, and draws the percentage, which
-        // can only be 100. Side A's new result meets Side B's old one first.
-        auto const evaluate_shown_roll = [&] {
-            boxes = boxes_after_shown[shown_index(carried_over_.victor_roll, boxes)];
-            roll_between(source, tie_percent, tie_percent);
-        };
-        unsigned const die_a = roll();
-        if (results_.a[die_a - 1] == carried_over_.result_b) [[unlikely]]
-            evaluate_shown_roll();
-        unsigned const die_b = roll();
-        carried_over_.result_b = results_.b[die_b - 1];
-        Meeting const meeting = meetings_[die_a - 1][die_b - 1];
+        std::size_t of_boxes = 0;
+        std::size_t const die_a = roll();
+        if (results_.a[die_a] == result_b) [[unlikely]]
+            of_boxes = evaluate_shown_roll();
+        std::size_t const die_b = roll();
+        result_b = results_.b[die_b];
+        Meeting const& meeting = meetings_[die_a][die_b];
         if (meeting.tie) [[unlikely]]
-            evaluate_shown_roll();
-
-        Judgement judgement = judgements[judgement_index(meeting.bonus, boxes, roll())];
-        int share = share_of(meeting, judgement.low, judgement.span);
-        if (judgement.boxes != 0) [[unlikely]] {
-            judgement = judgements[judgement_index(meeting.bonus, judgement.boxes, roll())];
-            share = share_of(meeting, judgement.low, judgement.span);
-        }
-        carried_over_.victor_roll = judgement.roll;
-        ++tally_.values[meeting.place + static_cast<std::size_t>(share)];
+            roll_victor(meeting, evaluate_shown_roll(), share_of_tie);
+        else roll_victor(meeting, of_boxes, share_in_range);
     }
+    carried_over_ = {result_b, shown->roll};
+    if constexpr (!std::is_abstract_v<Source>) random = source;
 }
 
 } // namespace warhost

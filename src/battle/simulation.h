@@ -6,6 +6,7 @@
 #include "battle/random.h"
 
 #include <array>
+#include <bit>
 #include <cstdint>
 
 namespace warhost {
@@ -47,17 +48,18 @@ public:
     Tally& tally() { return tally_; }
 
 private:
-    /// A pair of dice: where its battles are counted, the bonus its margin earns, whether it is a tie.
-    struct Meeting {
+    /// A pair of dice: where its battles are counted, where the judgements of its bonus begin, whether it is a tie. Its
+    /// size is a power of two, and so is the length of a row of them, which spares multiplications.
+    struct alignas(8) Meeting {
         std::uint16_t place;
-        std::uint8_t bonus;
+        std::uint16_t judgements;
         bool tie;
     };
 
-    template <class Source> void run(Source& source, std::int32_t battles);
+    template <class Source> void run(Source& random, std::int32_t battles);
 
     Results results_;
-    std::array<std::array<Meeting, die_sides>, die_sides> meetings_{}; // by Side A's die, then Side B's
+    std::array<std::array<Meeting, std::bit_ceil(unsigned{die_sides})>, die_sides> meetings_{}; // by both sides' dice
     CarriedOver carried_over_;
     Tally tally_;
 };
