@@ -97,8 +97,7 @@ public:
 
     template <std::size_t size> void reserved(std::string const& field, Reserved<size>& stretch)
     {
-        auto const taken = take(field, size);
-        std::copy(taken.begin(), taken.end(), stretch.begin());
+        std::copy_n(take(field, size).begin(), size, stretch.begin());
     }
 
     void list(std::string const& field, Element element, ReservedList& list)
