@@ -11,7 +11,7 @@ namespace {
 /// Set for as long as it lives.
 class RaisedFlag {
 public:
-    explicit RaisedFlag(bool& flag) : flag_(flag) { flag_ = true; }
+    explicit RaisedFlag(bool& flag) : flag_(flag) { flag = true; }
     RaisedFlag(RaisedFlag const&) = delete;
     RaisedFlag& operator=(RaisedFlag const&) = delete;
     ~RaisedFlag() { flag_ = false; }
