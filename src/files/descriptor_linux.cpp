@@ -3,8 +3,10 @@
 #include "army/failure.h"
 
 #include <array>
+#include <chrono>
 #include <fcntl.h>
 #include <system_error>
+#include <thread>
 #include <unistd.h>
 
 namespace warhost {
@@ -24,6 +26,9 @@ constexpr std::array error_meanings{
     ErrorMeaning{EREMOTEIO, std::errc::io_error},
     ErrorMeaning{ESTALE, std::errc::no_link},
 };
+
+/// The kernel takes a lease away after 45 seconds, unless it is set otherwise.
+constexpr std::chrono::seconds longest_lease{50};
 
 void require_ordinary(struct stat const& status, std::filesystem::path const& path)
 {
@@ -69,7 +74,16 @@ Descriptor open_ordinary(std::filesystem::path const& path, int access)
     require_ordinary(status, path); // merely opening a device can have an effect
     int const flags = access | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
     constexpr mode_t creates_nothing = 0;
-    Descriptor file{uninterrupted([&] { return ::open(path.c_str(), flags, creates_nothing); })};
+    auto const open = [&] {
+        return Descriptor{uninterrupted([&] { return ::open(path.c_str(), flags, creates_nothing); })};
+    };
+    Descriptor file = open();
+    // Another program, such as a file server, has a lease on the file and has now been asked to give it up.
+    auto const end = std::chrono::steady_clock::now() + longest_lease;
+    while (!file.is_open() && errno == EAGAIN && std::chrono::steady_clock::now() < end) {
+        std::this_thread::sleep_for(std::chrono::milliseconds{20});
+        file = open();
+    }
     require(file.is_open() || errno == ENOENT);
     if (file.is_open()) require_ordinary(status_of(file), path); // the path may lead elsewhere by now
     return file;

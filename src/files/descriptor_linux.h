@@ -45,7 +45,7 @@ struct stat status_of(Descriptor const& file);
 
 /// Opens the file that path leads to through its links; access: O_RDONLY or O_WRONLY. Not open when nothing is there.
 /// A folder, pipe, device or socket is refused, without being opened when it was there from the start, and never
-/// waited for.
+/// waited for. A lease that another program has on the file is waited for, at most 50 seconds.
 Descriptor open_ordinary(std::filesystem::path const& path, int access);
 
 } // namespace warhost

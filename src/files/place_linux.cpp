@@ -24,11 +24,12 @@ Place place_in(int folder, fs::path const& folder_path, fs::path const& path)
     return place;
 }
 
-/// In a folder with the sticky bit everybody may place a link. Followed blindly, it would turn a save into it on a file
-/// that only the user may write. The kernel refuses such links too, but not on every machine.
+/// In a folder that everyone may write, with the sticky bit, everyone may place a link. Followed blindly, it would turn
+/// a save into it on a file that only the user may write. The kernel refuses such links too, but not on every machine.
 bool is_trusted(struct stat const& link, struct stat const& folder)
 {
-    return (folder.st_mode & S_ISVTX) == 0 || link.st_uid == ::geteuid() || link.st_uid == folder.st_uid;
+    constexpr mode_t shared = S_ISVTX | S_IWOTH;
+    return (folder.st_mode & shared) != shared || link.st_uid == ::geteuid() || link.st_uid == folder.st_uid;
 }
 
 } // namespace

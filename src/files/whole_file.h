@@ -19,8 +19,8 @@ std::string read_file(std::string const& path);
 
 /// Puts bytes in place of the file at path, or makes it: written to a temporary file in the same folder, flushed to
 /// the disk, renamed over path. A symbolic link keeps pointing to its target, which is replaced; an existing file's
-/// permissions are kept. Throws a Failure that names the path and the cause; the old file is then whole and no
-/// temporary file remains.
+/// owner and permissions are kept as far as the system lets them be given, and never widened. Throws a Failure that
+/// names the path and the cause; the old file is then whole and no temporary file remains.
 void replace_file(std::string const& path, std::string_view bytes);
 
 } // namespace warhost

@@ -119,7 +119,7 @@ bool act(Battle& battle, Action const& action, int n, bool for_good)
     return short_of_memory(n, for_good, [&] { action.act(battle.form, std::move(typed)); });
 }
 
-TEST(OutOfMemory, changes_nothing_but_what_is_reported_and_leaves_nothing_that_the_next_tab_does_not_mend)
+TEST(OutOfMemory, leaves_records_and_screen_in_agreement)
 {
     for (auto const& action : actions) {
         Battle unbroken{action.tab}, untouched{action.tab};

@@ -43,8 +43,10 @@ void bind_text(TextBox& field, QLineEdit& box)
 
 bool takes_input(QWidget const& widget)
 {
-    // A dialog of the desktop's own is no widget, but it has a window.
-    return widget.isVisible() && widget.isEnabled() && QGuiApplication::modalWindow() == nullptr;
+    // A dialog of the desktop's own is no widget, but it has a window. An input method commits its text to the widget
+    // that is about to lose the focus to such a dialog.
+    bool const is_in_reach = QGuiApplication::modalWindow() == nullptr || widget.hasFocus();
+    return widget.isVisible() && widget.isEnabled() && is_in_reach;
 }
 
 void name_after(Control const& field, QWidget& widget)

@@ -17,9 +17,9 @@ class OptionChoice;
 class ValueBox;
 
 /// Each call names the widget after its field, gives it the field's tool tip and shows the field. A text or a state
-/// goes back only when it differs from the field's, which no showing makes it do; so what a user types, ticks or sets
-/// through assistive technology reaches the form, and no signal needs to be silenced. The field must outlive the
-/// widget's use, and must not be set any more once the widget is gone.
+/// goes back only when it differs from the field's, so showing a field never writes back and no signal is silenced.
+/// What a user types, ticks or sets through assistive technology reaches the form, unless the widget takes no input.
+/// The field must outlive the widget's use, and must not be set any more once the widget is gone.
 void bind(TextLabel& field, QLabel& label);
 void bind(TextBox& field, QLineEdit& box);
 void bind(ComboBox& field, ValueBox& box);
@@ -32,7 +32,8 @@ void bind(RichTextBox& field, QTextEdit& box);
 /// Characters that a user can enter into one box; no army file holds more in a text.
 inline constexpr int longest_text = 65535;
 
-/// Whether a user can act on a widget of the main window now: it is enabled, visible, and no modal dialog is open.
+/// Whether a user can act on a widget of the main window now: it is enabled, visible, and has the focus or no modal
+/// dialog open before it.
 /// Assistive technology acts on any widget at any time; what it does to one that takes no input is undone.
 bool takes_input(QWidget const& widget);
 

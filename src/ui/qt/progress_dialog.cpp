@@ -1,7 +1,9 @@
 #include "ui/qt/progress_dialog.h"
 
 #include <QCoreApplication>
+#include <QGuiApplication>
 #include <QHBoxLayout>
+#include <QInputMethod>
 
 namespace warhost {
 
@@ -16,6 +18,7 @@ ProgressDialog::ProgressDialog(QWidget* window, QString const& title, QString co
       window_(window)
 {
     if (window != nullptr) {
+        QGuiApplication::inputMethod()->commit(); // while the window still takes it
         focus_ = window->focusWidget();
         window->setEnabled(false);
         setEnabled(true); // a child window follows the one below it

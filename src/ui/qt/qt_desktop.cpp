@@ -1,6 +1,7 @@
 #include "ui/qt/qt_desktop.h"
 
 #include "ui/qt/answer_box.h"
+#include "ui/qt/binding.h"
 #include "ui/qt/file_chooser.h"
 #include "ui/qt/progress_dialog.h"
 #include "ui/qt/report_box.h"
@@ -11,6 +12,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QInputDialog>
+#include <QLineEdit>
 #include <QLocale>
 #include <QStandardPaths>
 #include <QUrl>
@@ -30,7 +32,7 @@ Answer QtDesktop::message_box(MessageBox const& box)
 
 void QtDesktop::show_report(MessageBox const& report, Tally const& tally, Odds const& odds)
 {
-    ReportBox{report, tally, odds, number_format(), window_}.exec();
+    if (!is_closed_) ReportBox{report, tally, odds, number_format(), window_}.exec();
 }
 
 void QtDesktop::show_progress(std::int32_t fought, std::int32_t battles, Tally const& so_far)
@@ -64,10 +66,11 @@ std::string QtDesktop::input_box(InputBox const& box)
     input.setWindowTitle(to_qt(box.title));
     input.setLabelText(to_qt(box.prompt));
     input.setTextValue(to_qt(box.default_text));
+    input.findChild<QLineEdit*>()->setMaxLength(longest_text);
     return input.exec() == QDialog::Accepted ? input.textValue().toStdString() : std::string{};
 }
 
-/// Where the user last was; at first the sample armies, beside which nothing is saved, nor where nothing can be.
+/// The folder used last; else the samples for loading, and Documents for saving.
 QString QtDesktop::folder_for(FileDialogKind kind)
 {
     bool const saves = kind == FileDialogKind::save;

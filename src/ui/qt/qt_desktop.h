@@ -21,6 +21,8 @@ public:
     void attach(QWidget* window) { window_ = window; }
     void set_scale(Scale const& scale) { scale_ = scale; }
     void set_client_size(QSize pixels) { client_ = pixels; }
+    /// No report is shown any more: it would keep the program running.
+    void window_was_closed() { is_closed_ = true; }
     bool simulates() const { return progress_.has_value(); }
 
     Answer message_box(MessageBox const& box) override;
@@ -49,6 +51,7 @@ private:
     QString folder_for(FileDialogKind kind);
 
     QWidget* window_ = nullptr;
+    bool is_closed_ = false;
     Scale scale_;
     QSize client_;
     std::optional<SimulationProgress> progress_; // of the simulation that runs

@@ -92,7 +92,7 @@ void Window::make_menus()
             QAction* const action = add(menu, items[k].name, items[k].caption);
             action->setShortcut(QKeySequence{to_qt(items[k].shortcut)});
             connect(action, &QAction::triggered, this, [this, handler = handlers[k]] {
-                if (takes_input(*menuBar())) handler(form_);
+                if (takes_input(*client_)) handler(form_);
             });
         }
     };
@@ -104,7 +104,7 @@ void Window::make_menus()
             add(*links, "mnuWeb(" + std::to_string(link.index) + ")", separates ? std::string_view{} : link.caption);
         action->setSeparator(separates);
         connect(action, &QAction::triggered, this, [this, index = link.index] {
-            if (takes_input(*menuBar())) form_.mnuWeb_Click(index);
+            if (takes_input(*client_)) form_.mnuWeb_Click(index);
         });
     }
     fill(*add_menu("mnuHelp", "&Help"), help_menu, help_handlers);
@@ -260,6 +260,7 @@ void Window::closeEvent(QCloseEvent* event)
         return event->ignore();
     }
     if (!confirms_quit()) return event->ignore();
+    desktop_.window_was_closed();
     for (QWidget* const other : QApplication::topLevelWidgets()) {
         if (other != this && other->isVisible()) other->close(); // an open manual would keep the program running
     }
@@ -280,8 +281,9 @@ bool Window::confirms_quit()
 
 bool Window::session_may_end(bool may_ask)
 {
+    if (waits_for_disk()) return false;
     if (!may_ask) return true;
-    if (waits_for_disk() || !confirms_quit()) return false;
+    if (!confirms_quit()) return false;
     close_later_.start(0); // the session manager gets its answer first
     return true;
 }

@@ -1,6 +1,5 @@
 // The dialogs of the real window system, answered by keys.
 #include "battle/odds.h"
-#include "battle/simulation.h"
 #include "temporary_folder.h"
 #include "ui/qt/file_chooser.h"
 #include "ui/qt/qt_desktop.h"
@@ -38,39 +37,28 @@ void answer_next_box(std::function<void(QWidget& box)> const& answer)
     QTimer::singleShot(0, [=] { answer(*QApplication::activeModalWidget()); });
 }
 
-TEST(Dialogs, take_enter_for_the_default_answer_and_do_no_harm_on_escape)
+TEST(Dialogs, keep_the_order_of_their_buttons_on_every_desktop_and_do_no_harm_on_escape)
 {
     QtDesktop desktop;
-    std::tuple<Buttons, Answer, Answer> const rows[] = {{Buttons::ok, Answer::ok, Answer::ok},
-                                                        {Buttons::yes_no, Answer::yes, Answer::no},
-                                                        {Buttons::abort_retry_ignore, Answer::abort, Answer::ignore}};
-    for (auto const& [buttons, by_enter, by_escape] : rows) {
-        for (auto const& [key, answer] : {std::pair{Qt::Key_Enter, by_enter}, {Qt::Key_Escape, by_escape}}) {
-            answer_next_box([pressed = key](QWidget& box) { QTest::keyClick(&box, pressed); });
-            EXPECT_EQ(desktop.message_box({.text = "<b>&", .buttons = buttons, .default_answer = by_enter}), answer);
-        }
-    }
-}
-
-TEST(Dialogs, keep_the_order_of_their_buttons_on_every_desktop)
-{
-    QtDesktop desktop;
-    std::tuple<Buttons, Answer, QStringList> const rows[] = {
-        {Buttons::yes_no, Answer::yes, {"Yes", "No"}},
-        {Buttons::abort_retry_ignore, Answer::ignore, {"Abort", "Retry", "Ignore"}}};
+    std::tuple<Buttons, Answer, Answer, QStringList> const rows[] = {
+        {Buttons::ok, Answer::ok, Answer::ok, {"OK"}},
+        {Buttons::yes_no, Answer::yes, Answer::no, {"Yes", "No"}},
+        {Buttons::abort_retry_ignore, Answer::ignore, Answer::ignore, {"Abort", "Retry", "Ignore"}},
+        {Buttons::abort_retry_ignore, Answer::abort, Answer::ignore, {"Abort", "Retry", "Ignore"}}};
     for (int layout = QDialogButtonBox::WinLayout; layout <= QDialogButtonBox::AndroidLayout; ++layout) {
-        SCOPED_TRACE(layout);
         qApp->setStyleSheet(QString{"QDialogButtonBox { button-layout: %1 }"}.arg(layout));
-        for (auto const& [buttons, by_default, order] : rows) {
-            QStringList shown;
-            answer_next_box([&](QWidget& box) {
-                auto found = box.findChildren<QPushButton*>();
-                std::ranges::sort(found, {}, &QPushButton::x);
-                for (auto* const button : found) shown << button->text().remove('&');
-                QTest::keyClick(&box, Qt::Key_Enter);
-            });
-            EXPECT_EQ(desktop.message_box({.text = "?", .buttons = buttons, .default_answer = by_default}), by_default);
-            EXPECT_EQ(shown, order);
+        for (auto const& [buttons, by_enter, by_escape, order] : rows) {
+            for (auto const& [key, answer] : {std::pair{Qt::Key_Enter, by_enter}, {Qt::Key_Escape, by_escape}}) {
+                QStringList shown;
+                answer_next_box([&, pressed = key](QWidget& box) {
+                    auto found = box.findChildren<QPushButton*>();
+                    std::ranges::sort(found, {}, &QPushButton::x);
+                    for (auto* const button : found) shown << button->text().remove('&');
+                    QTest::keyClick(&box, pressed);
+                });
+                EXPECT_EQ(desktop.message_box({"<b>&", "?", buttons, Icon::none, by_enter}), answer) << layout;
+                EXPECT_EQ(shown, order) << layout;
+            }
         }
     }
     qApp->setStyleSheet({});
@@ -80,18 +68,15 @@ TEST(Dialogs, show_a_path_of_any_length_whole_and_within_the_screen)
 {
     QtDesktop desktop;
     for (std::size_t const length : {20, 300, 3000, 60000}) {
-        SCOPED_TRACE(length);
         std::string const text = "File '" + std::string(length, 'w') + "' not found.";
         answer_next_box([&](QWidget& box) {
-            auto* const shown = box.findChild<QTextEdit*>();
-            ASSERT_NE(shown, nullptr);
-            QSize const text_size = shown->document()->size().toSize();
-            QSize const screen = box.screen()->availableSize();
-            EXPECT_LE(text_size.width(), shown->viewport()->width());
-            EXPECT_TRUE(text_size.height() <= shown->viewport()->height() || shown->verticalScrollBar()->isVisible());
-            EXPECT_TRUE(box.width() < screen.width() && box.height() < screen.height());
-            shown->selectAll();
-            shown->copy();
+            auto& shown = *box.findChild<QTextEdit*>();
+            QSize const size = shown.document()->size().toSize(), room = shown.viewport()->size();
+            EXPECT_LE(size.width(), room.width()) << length;
+            EXPECT_TRUE(size.height() <= room.height() || shown.verticalScrollBar()->isVisible()) << length;
+            EXPECT_EQ(box.size().boundedTo(box.screen()->availableSize()), box.size()) << length;
+            shown.selectAll();
+            shown.copy();
             EXPECT_EQ(QApplication::clipboard()->text().toStdString(), text);
             QTest::keyClick(&box, Qt::Key_Enter);
         });
@@ -209,22 +194,22 @@ TEST_F(FileChoice, refused_in_the_toolkits_dialog_leaves_it_open_with_the_typed_
     };
     for (auto const& [request, refused, accepted, path] : rows) {
         SCOPED_TRACE(refused);
-        answer_next_box([&, refused = refused, accepted = accepted](QWidget& box) {
+        answer_next_box([&, first = refused, then = accepted](QWidget& box) {
             auto& dialog = dynamic_cast<QFileDialog&>(box);
             EXPECT_EQ(dialog.nameFilters(), (QStringList{"Army Files (*.Army)", "All Files (*)"}));
             auto* const name = dialog.findChild<QLineEdit*>("fileNameEdit");
             auto* const buttons = dialog.findChild<QDialogButtonBox*>();
-            name->setText(to_qt(refused));
+            name->setText(to_qt(first));
             answer_next_box([&](QWidget& question) {
                 asked.push_back(question.windowTitle().toStdString());
                 QTest::keyClick(&question, Qt::Key_Enter); // No, or OK
             });
             buttons->buttons().at(0)->click();
             EXPECT_EQ(std::exchange(asked, {}).size(), 1U);
-            EXPECT_EQ(name->text().toStdString(), refused);
+            EXPECT_EQ(name->text().toStdString(), first);
             EXPECT_TRUE(dialog.isVisible());
-            name->setText(to_qt(accepted));
-            QTest::keyClick(name, accepted.empty() ? Qt::Key_Escape : Qt::Key_Return);
+            name->setText(to_qt(then));
+            QTest::keyClick(name, then.empty() ? Qt::Key_Escape : Qt::Key_Return);
             EXPECT_FALSE(dialog.isVisible());
         });
         EXPECT_EQ(desktop.file_dialog(request).value_or(""), path);
@@ -269,28 +254,9 @@ TEST(Dialogs, the_input_box_gives_the_text_and_nothing_when_cancelled)
 {
     QtDesktop desktop;
     for (auto const& [key, text] : {std::pair{Qt::Key_Enter, "1000"}, {Qt::Key_Escape, ""}}) {
-        answer_next_box([key = key](QWidget& box) { QTest::keyClick(&box, key); });
+        answer_next_box([pressed = key](QWidget& box) { QTest::keyClick(&box, pressed); });
         EXPECT_EQ(desktop.input_box({.prompt = "How many?", .title = "Simulate", .default_text = "1000"}), text);
     }
-}
-
-TEST(Dialogs, the_report_draws_who_won)
-{
-    QtDesktop desktop;
-    std::array<std::ptrdiff_t, 2> bars{};
-    for (auto const winner : {side_a_won, tie}) {
-        Tally tally;
-        tally.count(winner, winner == tie ? 0 : 5, 0);
-        answer_next_box([&](QWidget& box) {
-            QImage const picture = box.grab().toImage();
-            auto const* const dots = reinterpret_cast<QRgb const*>(picture.constBits());
-            QRgb const colour = box.palette().color(QPalette::Highlight).rgb();
-            bars.at(winner == tie) = std::count(dots, dots + picture.sizeInBytes() / sizeof(QRgb), colour);
-            QTest::keyClick(&box, Qt::Key_Enter);
-        });
-        desktop.show_report({.text = "Battle Results", .title = "Warhost Simulation"}, tally, Odds{0, 0});
-    }
-    EXPECT_GT(bars[0], 2 * bars[1]);
 }
 
 } // namespace
