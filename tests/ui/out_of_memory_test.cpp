@@ -22,6 +22,14 @@ bool memory_stays_short = false; // all that follow fail, too
     if (void* const memory = std::malloc(size > 0 ? size : 1)) return memory;
     throw std::bad_alloc{};
 }
+[[gnu::noinline]] void* operator new(std::size_t size, std::nothrow_t const& /*tag*/) noexcept
+{
+    try {
+        return operator new(size);
+    } catch (std::bad_alloc const&) {
+        return nullptr;
+    }
+}
 [[gnu::noinline]] void operator delete(void* memory) noexcept { std::free(memory); }
 [[gnu::noinline]] void operator delete(void* memory, std::size_t /*size*/) noexcept { std::free(memory); }
 
