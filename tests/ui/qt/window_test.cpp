@@ -12,7 +12,9 @@
 #include <QAccessible>
 #include <QCheckBox>
 #include <QDialog>
+#include <QInputMethodEvent>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QThread>
 #include <QTimer>
 #include <QWheelEvent>
@@ -252,6 +254,31 @@ TEST(Window, takes_no_input_from_anywhere_while_it_waits_for_a_disk_or_an_answer
     EXPECT_THROW(screen.desktop.wait_for([] { throw Failure{1, "slow"}; }), Failure);
 }
 
+/// An input method, which commits its text when the focus is about to leave.
+struct InputMethod : QObject {
+    bool eventFilter(QObject* box, QEvent* event) override
+    {
+        if (event->type() != QEvent::FocusAboutToChange) return false;
+        QInputMethodEvent commit;
+        commit.setCommitString(std::exchange(text, {}));
+        QCoreApplication::sendEvent(box, &commit);
+        return false;
+    }
+    QString text = "ves";
+};
+
+TEST(Window, takes_what_an_input_method_commits_when_a_dialog_opens)
+{
+    Screen screen;
+    auto& name = screen.named<QLineEdit>("txtArmyName");
+    QTest::keyClicks(&name, "El");
+    InputMethod method;
+    name.installEventFilter(&method);
+    QTimer::singleShot(0, [] { QApplication::activeModalWidget()->close(); });
+    screen.desktop.QtDesktop::message_box({.text = "A question"});
+    EXPECT_EQ(screen.form.ArmyA.Name, "Elves");
+}
+
 TEST(Window, whatever_is_clicked_and_typed_the_records_and_the_screen_agree)
 {
     TemporaryFolder const folder;
@@ -304,6 +331,7 @@ TEST(Window, closing_asks_first)
     screen.desktop.answers = {Answer::no, Answer::yes};
     EXPECT_FALSE(screen.window.close());
     EXPECT_TRUE(screen.window.isVisible());
+    screen.window.menuBar()->hide(); // the desktop may show the menus itself
     screen.trigger("mnuQuit");
     EXPECT_FALSE(screen.window.isVisible());
     EXPECT_EQ(screen.desktop.titles, (std::vector<std::string>{"Quit Warhost?", "Quit Warhost?"}));
