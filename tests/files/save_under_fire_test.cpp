@@ -247,12 +247,10 @@ TEST(SaveUnderFire, takes_rights_away_when_the_access_list_cannot_be_read)
 {
     TemporaryFolder const folder;
     auto const file = folder.path("x.Army");
-    for (auto const& [error, mode] : {std::pair{ENODATA, 0644U},
-                                      {ENOTSUP, 0644U},
-                                      {E2BIG, 0600U},
-                                      {ERANGE, 0600U},
-                                      {EACCES, 0600U},
-                                      {EIO, 0600U}}) {
+    // clang-format off
+    for (auto const& [error, mode] : {std::pair{ENODATA, 0644U}, {ENOTSUP, 0644U}, {E2BIG, 0600U}, {ERANGE, 0600U},
+                                      {EACCES, 0600U}, {EIO, 0600U}}) {
+        // clang-format on
         folder.write("x.Army", "old");
         std::filesystem::permissions(file, std::filesystem::perms{0644});
         Fire no_list{.blow = Blow::cut_short, .at = 0, .list_error = error};
@@ -295,15 +293,11 @@ TEST(UnderFire, the_cause_is_named)
     auto const* const full = "The disk is full: ";
     auto const* const lost = "The connection to the network folder was lost: ";
     auto const* const silent = "The disk or network folder does not answer: ";
-    for (auto const& [error, text] : {std::pair{ENOSPC, full},
-                                      {EDQUOT, full},
-                                      {ESTALE, lost},
-                                      {ENOLINK, lost},
-                                      {ENOTCONN, lost},
-                                      {EHOSTDOWN, lost},
-                                      {ETIMEDOUT, silent},
-                                      {ENOMEDIUM, silent},
+    // clang-format off
+    for (auto const& [error, text] : {std::pair{ENOSPC, full}, {EDQUOT, full}, {ESTALE, lost}, {ENOLINK, lost},
+                                      {ENOTCONN, lost}, {EHOSTDOWN, lost}, {ETIMEDOUT, silent}, {ENOMEDIUM, silent},
                                       {EREMOTEIO, "The disk or network reported an error: "}})
+        // clang-format on
         for (auto const command : {Command::save, Command::load})
             EXPECT_EQ(under_fire(command, folder.path("x"), "x", {Blow::fails, 1, true, error, text}), refused) << text;
 }
