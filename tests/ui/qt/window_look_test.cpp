@@ -3,15 +3,12 @@
 
 #include "ui/qt/contrast.h"
 
-#include <QAbstractButton>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPixmap>
 #include <QRadioButton>
-#include <QStyle>
 #include <QStyleOptionButton>
 #include <QStyleOptionGroupBox>
 #include <QTextEdit>
@@ -19,13 +16,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <map>
-#include <memory>
 #include <set>
-#include <string>
-#include <string_view>
-#include <typeinfo>
-
-#include <cxxabi.h>
 
 namespace warhost {
 
@@ -47,15 +38,14 @@ void fill(Screen& screen)
     QCoreApplication::processEvents();
 }
 
-std::vector<QWidget*> shown_widgets(Screen& screen)
+QList<QWidget*> shown_widgets(Screen& screen)
 {
-    std::vector<QWidget*> shown;
-    for (QWidget* const widget : screen.window.findChildren<QWidget*>()) {
-        bool counts = false;
-        for (char const* kind : {"QLabel", "QAbstractButton", "QGroupBox", "QLineEdit", "QTextEdit"})
-            counts = counts || widget->inherits(kind);
-        if (counts && widget->isVisible() && widget->width() > 0) shown.push_back(widget);
-    }
+    auto shown = screen.window.findChildren<QWidget*>();
+    shown.removeIf([](QWidget* at) {
+        auto const is = [&](char const* kind) { return at->inherits(kind); };
+        return !at->isVisible() || at->width() <= 0 ||
+               std::ranges::none_of(std::array{"QLabel", "QAbstractButton", "QGroupBox", "QLineEdit", "QTextEdit"}, is);
+    });
     return shown;
 }
 
@@ -65,12 +55,7 @@ QString name_of(QWidget const& widget)
 }
 
 /// The room that a widget has for its text, and the text.
-struct Content {
-    QRect room;
-    QString text;
-};
-
-Content content_of(QWidget& widget)
+std::pair<QRect, QString> content_of(QWidget& widget)
 {
     if (auto* const label = qobject_cast<QLabel*>(&widget)) return {label->contentsRect(), label->text()};
     if (auto* const box = qobject_cast<QLineEdit*>(&widget)) // keeps two pixels free on either side
@@ -88,9 +73,8 @@ Content content_of(QWidget& widget)
         option.initFrom(frame);
         option.text = frame->title();
         option.subControls = QStyle::SC_GroupBoxFrame | QStyle::SC_GroupBoxLabel;
-        QRect room = frame->rect();
-        room.setLeft(
-            frame->style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxLabel, frame).left());
+        QRect room = frame->style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxLabel, frame);
+        room = {{room.left(), 0}, frame->rect().bottomRight()};
         for (auto* const result : frame->findChildren<QComboBox*>())
             if (result->y() == 0) room.setRight(result->x() - 1);
         return {room, frame->title()};
@@ -108,22 +92,6 @@ bool inside_its_parents(QWidget const& widget)
     return true;
 }
 
-TEST(WindowLook, every_widget_of_ours_carries_its_own_class_name)
-{
-    // Without it, findChild would take any combo box for a ValueBox.
-    Screen screen;
-    for (int const tab : tabs) screen.choose_tab(tab);
-    std::set<std::string> names;
-    for (QObject const* const object : screen.window.findChildren<QObject*>()) {
-        std::unique_ptr<char, decltype(&std::free)> const name{
-            abi::__cxa_demangle(typeid(*object).name(), nullptr, nullptr, nullptr), &std::free};
-        if (!std::string_view{name.get()}.starts_with("warhost::")) continue;
-        names.insert(name.get());
-        EXPECT_STREQ(object->metaObject()->className(), name.get());
-    }
-    EXPECT_TRUE(names.contains("warhost::ValueBox"));
-}
-
 TEST(WindowLook, no_text_is_clipped_and_nothing_overlaps)
 {
     for (double const share : {1.0, 1.25, 1.5}) {
@@ -137,13 +105,11 @@ TEST(WindowLook, no_text_is_clipped_and_nothing_overlaps)
             for (QWidget* const widget : widgets) {
                 SCOPED_TRACE(QString{"%1 at %2, tab %3"}.arg(name_of(*widget)).arg(share).arg(tab).toStdString());
                 auto const [room, text] = content_of(*widget);
-                auto const* const label = qobject_cast<QLabel*>(widget);
-                if (label != nullptr && label->wordWrap()) {
-                    EXPECT_LE(widget->fontMetrics().boundingRect(room, Qt::TextWordWrap, text).height(), room.height());
-                } else {
-                    EXPECT_LE(widget->fontMetrics().horizontalAdvance(text), room.width()) << text.toStdString();
-                    EXPECT_TRUE(text.isEmpty() || widget->fontMetrics().height() <= room.height());
-                }
+                auto const font = widget->fontMetrics();
+                bool const wraps = widget->property("wordWrap").toBool(); // a label's
+                int const height = wraps ? font.boundingRect(room, Qt::TextWordWrap, text).height() : font.height();
+                EXPECT_TRUE(text.isEmpty() || height <= room.height());
+                EXPECT_TRUE(wraps || font.horizontalAdvance(text) <= room.width()) << text.toStdString();
                 EXPECT_TRUE(inside_its_parents(*widget));
                 for (QWidget* const other : widgets) {
                     if (other == widget) break; // those behind it compare themselves with it
@@ -163,11 +129,9 @@ double contrast_in(QImage const& picture)
     std::map<QRgb, int> counts;
     for (int y = 0; y < picture.height(); ++y)
         for (int x = 0; x < picture.width(); ++x) ++counts[picture.pixel(x, y)];
-    auto const background = std::max_element(counts.begin(), counts.end(),
-                                             [](auto const& a, auto const& b) { return a.second < b.second; });
+    QColor const background{std::ranges::max_element(counts, {}, [](auto const& at) { return at.second; })->first};
     double best = 1;
-    for (auto const& [colour, count] : counts)
-        best = std::max(best, contrast_ratio(QColor{colour}, QColor{background->first}));
+    for (auto const& [colour, count] : counts) best = std::max(best, contrast_ratio(QColor{colour}, background));
     return best;
 }
 
@@ -191,10 +155,10 @@ TEST(WindowLook, every_text_is_readable_in_light_dark_and_high_contrast)
                 if (text.trimmed().isEmpty()) continue;
                 QRect place{widget->mapTo(&screen.window, room.topLeft()), room.size()};
                 if (qobject_cast<QGroupBox*>(widget) != nullptr) place.setHeight(widget->fontMetrics().height());
-                place = place.adjusted(2, 2, -2, -2);
+                place.adjust(2, 2, -2, -2);
                 qreal const dots = window.devicePixelRatio();
-                QRect const dots_place{(place.topLeft().toPointF() * dots).toPoint(), place.size() * dots};
-                EXPECT_GE(contrast_in(window.copy(dots_place).toImage()), least_contrast)
+                QRect const in_dots{(place.topLeft().toPointF() * dots).toPoint(), place.size() * dots};
+                EXPECT_GE(contrast_in(window.copy(in_dots).toImage()), least_contrast)
                     << name_of(*widget).toStdString() << " on " << palette.color(QPalette::Window).name().toStdString();
             }
         }
@@ -209,8 +173,7 @@ TEST(WindowLook, neighbouring_misc_rows_differ_and_odd_ones_are_light_grey)
         auto& box = screen.named<QCheckBox>(row);
         return box.grab().toImage().pixelColor(box.width() / 2, 2);
     };
-    EXPECT_EQ(behind("chkMisc(1)"), QColor(240, 240, 240));
-    EXPECT_EQ(behind("chkMisc(3)"), QColor(240, 240, 240));
+    for (char const* const row : {"chkMisc(1)", "chkMisc(3)"}) EXPECT_EQ(behind(row), QColor(240, 240, 240));
     EXPECT_GE(std::abs(behind("chkMisc(2)").lightness() - 240), 8);
 }
 
@@ -231,18 +194,20 @@ TEST(WindowLook, the_tab_key_goes_in_reading_order_through_everything)
 {
     Screen screen;
     // The options of one frame are one stop; the arrow keys go on from there.
-    auto const army = spelled_out(
-        "TabStrip txtArmyName cmdSaveArmy cmdLoadArmy txtTotal txtUnitType,txtUnitNum(0-7) txtTotalNo cmbOpt(5) opt(25) "
-        "cmbOpt(1) opt(4) cmbLevel cmbOpt(0) opt(0) cmbOpt(2) opt(7) cmbOpt(3) opt(13) cmbOpt(7) opt(41) cmbOpt(4) opt(20) " +
-        QString{"chkMisc,cmbMisc(1-%1)"}.arg(screen.form.chkMisc.highest()));
-    EXPECT_EQ(tab_walk(screen), army);
+    EXPECT_EQ(
+        tab_walk(screen),
+        spelled_out(
+            "TabStrip txtArmyName cmdSaveArmy cmdLoadArmy txtTotal txtUnitType,txtUnitNum(0-7) txtTotalNo cmbOpt(5) opt(25) "
+            "cmbOpt(1) opt(4) cmbLevel cmbOpt(0) opt(0) cmbOpt(2) opt(7) cmbOpt(3) opt(13) cmbOpt(7) opt(41) cmbOpt(4) opt(20) " +
+            QString{"chkMisc,cmbMisc(1-%1)"}.arg(screen.form.chkMisc.highest())));
     screen.choose_tab(3);
-    auto const combat = spelled_out(
-        "TabStrip txtTotalMod(0-1) cmdRollAll cmdRoll(0-1) txtResult(0-1) txtLoserCasualty txtVictorCasRoll "
-        "cmdRollCasualty txtCasRollBonus chkPlus5 chkMinus5 cmdRollVictorCas txtVictorCasPercent txtVictorCas "
-        "txtAName,txtANum,txtLoses(0-7) cmdApplyCasualties(0) txtAName,txtANum,txtLoses(8-15) cmdApplyCasualties(1) "
-        "txtBattleResults txtVictorDesc cmdSimulate");
-    EXPECT_EQ(tab_walk(screen), combat);
+    EXPECT_EQ(
+        tab_walk(screen),
+        spelled_out(
+            "TabStrip txtTotalMod(0-1) cmdRollAll cmdRoll(0-1) txtResult(0-1) txtLoserCasualty txtVictorCasRoll "
+            "cmdRollCasualty txtCasRollBonus chkPlus5 chkMinus5 cmdRollVictorCas txtVictorCasPercent txtVictorCas "
+            "txtAName,txtANum,txtLoses(0-7) cmdApplyCasualties(0) txtAName,txtANum,txtLoses(8-15) cmdApplyCasualties(1) "
+            "txtBattleResults txtVictorDesc cmdSimulate"));
 }
 
 TEST(WindowLook, every_widget_that_takes_the_keyboard_has_a_name_of_its_own)
@@ -251,11 +216,9 @@ TEST(WindowLook, every_widget_that_takes_the_keyboard_has_a_name_of_its_own)
     screen.choose_tab(3);
     std::set<QString> names;
     for (QWidget* const widget : screen.window.findChildren<QWidget*>()) {
-        bool const inside_another = qobject_cast<QComboBox*>(widget->parentWidget()) != nullptr;
-        if (inside_another || (widget->focusPolicy() & Qt::TabFocus) == 0) continue;
-        EXPECT_FALSE(widget->accessibleName().isEmpty())
-            << widget->metaObject()->className() << " in " << widget->parentWidget()->metaObject()->className();
-        EXPECT_TRUE(names.insert(widget->accessibleName()).second) << widget->accessibleName().toStdString();
+        QString const name = widget->accessibleName();
+        if (widget->parentWidget()->inherits("QComboBox") || (widget->focusPolicy() & Qt::TabFocus) == 0) continue;
+        EXPECT_TRUE(!name.isEmpty() && names.insert(name).second) << name_of(*widget).toStdString();
     }
     EXPECT_EQ(screen.named<QWidget>("txtLoses(10)").accessibleName(), "Side B, unit 3, loses");
 }

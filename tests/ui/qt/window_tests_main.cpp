@@ -7,28 +7,20 @@
 
 #include <gtest/gtest.h>
 
-namespace {
-
-QtMessageHandler standard_handler = nullptr;
-
-/// The off-screen platform reports with every window what it lacks; these lines would hide a real warning.
-void leave_out_missing_features(QtMsgType type, QMessageLogContext const& context, QString const& message)
-{
-    if (!message.startsWith("This plugin does not support")) standard_handler(type, context, message);
-}
-
-} // namespace
-
 int main(int argc, char* argv[])
 {
     testing::InitGoogleTest(&argc, argv);
-    standard_handler = qInstallMessageHandler(leave_out_missing_features);
+    // The off-screen platform reports with every window what it lacks; these lines would hide a real warning.
+    static QtMessageHandler const standard_handler =
+        qInstallMessageHandler([](QtMsgType type, QMessageLogContext const& context, QString const& message) {
+            if (!message.startsWith("This plugin does not support")) standard_handler(type, context, message);
+        });
     QTemporaryDir const folder;
     // The off-screen platform's own screen is too small for a window at larger fonts.
     QFile screens{folder.filePath("screens.json")};
     QStringList const size = qEnvironmentVariable("WARHOST_TEST_SCREEN", "4000x3000").split('x');
-    QString const screen = R"({"screens":[{"name":"one","x":0,"y":0,"width":%1,"height":%2,"logicalDpi":96,)"
-                           R"("logicalBaseDpi":96,"dpr":1}]})";
+    QString const screen =
+        R"({"screens":[{"name":"one","x":0,"y":0,"width":%1,"height":%2,"logicalDpi":96,"logicalBaseDpi":96,"dpr":1}]})";
     screens.open(QIODevice::WriteOnly);
     screens.write(screen.arg(size.at(0), size.at(1)).toUtf8());
     screens.close();
