@@ -155,9 +155,9 @@ TEST(MiscPanel, makes_a_row_of_every_entry)
 {
     Program program{" Ford \r\n12|-1,1\r\nHill\r\n3,1\r\n  \r\n4\r\n"};
     Main& form = program.form;
-    std::tuple<char const*, int, bool, float> const rows[] = {{"Ford (-1 to +1): -1 of -1 +0 +1", 12, true, 300},
-                                                              {"Hill (+1 to +3): +3 of +1 +2 +3", 0, false, 600},
-                                                              {"(+4): +4 of +4", 0, true, 900}};
+    std::tuple<char const*, int, bool, float> const rows[] = {// clang-format off
+        {"Ford (-1 to +1): -1 of -1 +0 +1", 12, true, 300}, {"Hill (+1 to +3): +3 of +1 +2 +3", 0, false, 600},
+        {"(+4): +4 of +4", 0, true, 900}}; // clang-format on
     ASSERT_EQ(form.chkMisc.highest(), 3);
     for (int row = 1; row <= 3; ++row) {
         auto const& [shown, topic, grey, top] = rows[row - 1];

@@ -153,14 +153,12 @@ TEST_F(CombatScreen, announces_a_side_without_soldiers_every_time)
     form.TabStrip.choose(1);
     form.txtUnitNum(0).set_text("10");
     form.txtUnitNum(1).set_text("0");
-    form.txtLoses(0).set_text("15");
     std::string asked;
     desktop.while_asked = [&] { asked += texts(form.txtTotalMod(1), form.txtANum(0), form.txtANum(8)) + " "; };
-    form.cmdApplyCasualties(0).press();
-    form.txtLoses(0).set_text("");
-    form.cmdApplyCasualties(0).press();
-    form.txtLoses(8).set_text("95");
-    form.cmdApplyCasualties(1).press();               // -15 and 15
+    for (auto const& [side, loss] : {std::pair{0, "15"}, {0, ""}, {1, "95"}}) { // the last leaves B -15 and 15
+        form.txtLoses(8 * side).set_text(loss);
+        form.cmdApplyCasualties(side).press();
+    }
     EXPECT_EQ(asked, "17/-5/80 20/-5/80 20/-5/-15 "); // the bonus of 95 to 10 until the first box is closed
     std::string const first = "Warhost: Side ", rest = " has been annihilated! [OK, no icon, OK]";
     EXPECT_EQ(desktop.boxes, (std::vector{first + "A" + rest, first + "A" + rest, first + "B" + rest}));
