@@ -26,9 +26,9 @@ public:
     {
         return name.empty() ? folder_ : folder_ + static_cast<char>(std::filesystem::path::preferred_separator) + name;
     }
-    void write(std::string const& name, std::string const& bytes) const
+    void write(std::string const& to, std::string const& text) const
     {
-        std::ofstream{path(name), std::ios::binary} << bytes;
+        std::ofstream{path(to), std::ios::binary} << text;
     }
     std::string read(std::string const& name) const
     {

@@ -22,7 +22,12 @@ namespace fs = std::filesystem;
 
 void replace(std::string const& path) { replace_file(path, std::string(1001, 'x')); }
 
-struct WholeFile : testing::Test, TemporaryFolder {};
+struct WholeFile : testing::Test, TemporaryFolder {
+    void expect_refused(auto run, std::string const& name, std::string const& cause) const
+    {
+        EXPECT_EQ(caught(run, path(name)).text, cause + path(name));
+    }
+};
 
 TEST_F(WholeFile, says_why_it_cannot_be_used_and_leaves_everything_as_it_was)
 {
@@ -39,37 +44,31 @@ TEST_F(WholeFile, says_why_it_cannot_be_used_and_leaves_everything_as_it_was)
 #ifdef _WIN32
         {"\xFF", "The file name cannot be used: "},
 #else
-        {"file/x", "The folder was not found: "},
-        {"pipe", "This is not an ordinary file: "},
-        {"loop", "The symbolic links form a loop: "},
-        {std::string(300, 'n'), "The file name cannot be used: "},
+        {"file/x", "The folder was not found: "}, {"pipe", "This is not an ordinary file: "},
+        {"loop", "The symbolic links form a loop: "}, {std::string(300, 'n'), "The file name cannot be used: "},
 #endif
         {std::string("file\0.Army", 10), "The file name cannot be used: "},
     };
     // clang-format on
     for (auto const& [name, text] : cases) {
-        auto const file = path(name);
-        EXPECT_EQ(caught(read_file, file).text, text + file);
-        EXPECT_EQ(caught(replace, file).text, text + file);
-        EXPECT_EQ(FileExists(file), name == "pipe");
+        expect_refused(read_file, name, text);
+        expect_refused(replace, name, text);
+        EXPECT_EQ(FileExists(path(name)), name == "pipe");
         EXPECT_EQ(names(), before);
     }
-    auto const missing = path("missing"), inside = missing + "/x";
-    EXPECT_EQ(caught(read_file, missing).text, "The file was not found: " + missing);
-    EXPECT_EQ(caught(replace, inside).text, "The folder was not found: " + inside);
-    auto const reserved = path(".warhost-7f.tmp");
-    EXPECT_EQ(caught(replace, reserved).text, "The file name cannot be used: " + reserved);
+    expect_refused(read_file, "missing", "The file was not found: ");
+    expect_refused(replace, "missing/x", "The folder was not found: ");
+    expect_refused(replace, ".warhost-7f.tmp", "The file name cannot be used: ");
     EXPECT_EQ(read("file"), "whole");
 }
 
 TEST_F(WholeFile, is_read_up_to_64_MiB)
 {
-    auto const file = path("file");
     write("file", "x");
-    fs::resize_file(file, std::size_t{64} << 20U);
-    EXPECT_EQ(read_file(file).size(), std::size_t{64} << 20U);
-    fs::resize_file(file, (std::size_t{64} << 20U) + 1);
-    EXPECT_EQ(caught(read_file, file).text, "The file is too large: " + file);
+    fs::resize_file(path("file"), std::size_t{64} << 20U);
+    EXPECT_EQ(read_file(path("file")).size(), std::size_t{64} << 20U);
+    fs::resize_file(path("file"), (std::size_t{64} << 20U) + 1);
+    expect_refused(read_file, "file", "The file is too large: ");
 }
 
 TEST_F(WholeFile, clears_what_killed_saves_left_and_nothing_else)
@@ -113,19 +112,18 @@ TEST_F(WholeFile, is_replaced_under_any_name_and_keeps_its_permissions)
 
 TEST_F(WholeFile, that_cannot_be_replaced_stays)
 {
-    auto const file = path("file"), bad = path("a*b");
+    auto const file = path("file");
     write("file", "whole");
     fs::permissions(file, fs::perms{0444});
-    EXPECT_EQ(caught(replace, file).text, "Permission denied: " + file);
+    expect_refused(replace, "file", "Permission denied: ");
     fs::permissions(file, fs::perms{0666});
-    EXPECT_EQ(caught(replace, bad).text, "The file name cannot be used: " + bad);
+    expect_refused(replace, "a*b", "The file name cannot be used: ");
     constexpr DWORD most = FILE_SHARE_READ | FILE_SHARE_WRITE, all = most | FILE_SHARE_DELETE;
     for (DWORD const sharing : {DWORD{FILE_SHARE_READ}, most, all}) {
         auto* const other = ::CreateFileA(file.c_str(), GENERIC_READ, sharing, nullptr, OPEN_EXISTING, 0, nullptr);
         auto const text = caught(replace, file).text;
         ::CloseHandle(other);
-        // Where all is shared not every system refuses.
-        EXPECT_TRUE(sharing == all || text == "The file is in use: " + file) << text;
+        EXPECT_TRUE(sharing == all || text == "The file is in use: " + file) << text; // not every system refuses all
         EXPECT_EQ(read("file") == "whole", !text.empty());
         EXPECT_EQ(names(), std::set<std::string>{"file"});
     }
@@ -133,8 +131,7 @@ TEST_F(WholeFile, that_cannot_be_replaced_stays)
 
 #else
 
-constexpr uid_t nobody = 65534;
-constexpr uid_t stranger = 1000;
+constexpr uid_t nobody = 65534, stranger = 1000;
 
 /// Takes the superuser's privileges away for a while: permissions mean nothing to him.
 class OrdinaryUser {
@@ -171,30 +168,20 @@ struct SharedFile : WholeFile {
         OrdinaryUser const user;
         return caught(replace, path(name)).text;
     }
-    /// "owner:group mode" of a file.
-    std::string rights(std::string const& name) const
-    {
-        struct stat status = {};
-        EXPECT_EQ(::stat(path(name).c_str(), &status), 0);
-        return std::to_string(status.st_uid) + ":" + std::to_string(status.st_gid) + " " +
-               (testing::Message() << std::oct << (status.st_mode & 07777U)).GetString();
-    }
 };
 
 TEST_F(WholeFile, replaces_a_file_and_keeps_links_and_permissions)
 {
-    auto const old = path("old"), once = path("links/once"), twice = path("links/twice"),
-               dangling = path("links/dangling");
-    write("old", std::string(200000, 'x'));
-    EXPECT_EQ(read_file(old).size(), 200000U);
-    fs::permissions(old, fs::perms{0640});
+    auto const once = path("links/once"), twice = path("links/twice"), dangling = path("links/dangling");
+    write("old", "one");
+    fs::permissions(path("old"), fs::perms{0640});
     fs::create_directory(path("links"));
     fs::create_symlink("../old", once);
     fs::create_symlink("once", twice);
     replace_file(twice, "two");
     EXPECT_TRUE(fs::is_symlink(twice) && fs::is_symlink(once));
     EXPECT_EQ(read("old"), "two");
-    EXPECT_EQ(fs::status(old).permissions(), fs::perms{0640});
+    EXPECT_EQ(fs::status(path("old")).permissions(), fs::perms{0640});
     fs::create_symlink(path("born"), dangling);
     EXPECT_FALSE(FileExists(dangling));
     replace_file(dangling, "three");
@@ -205,17 +192,16 @@ TEST_F(WholeFile, replaces_a_file_and_keeps_links_and_permissions)
 
 TEST_F(WholeFile, respects_permissions)
 {
-    auto const file = path("file"), secret = path("secret"), shut = path("shut");
     for (char const* name : {"file", "secret"}) write(name, "whole");
     fs::create_directory(path("shut"));
     for (auto const& [name, mode] : {std::pair{"file", 0444U}, {"secret", 0U}, {"shut", 0555U}, {"", 0777U}})
         fs::permissions(path(name), fs::perms{mode});
     OrdinaryUser user;
     if (::geteuid() == 0) GTEST_SKIP() << "the superuser may do everything";
-    EXPECT_EQ(read_file(file), "whole");
-    EXPECT_EQ(caught(replace, file).text, "Permission denied: " + file);
-    EXPECT_EQ(caught(read_file, secret).text, "Permission denied: " + secret);
-    EXPECT_EQ(caught(replace, shut + "/new").text, "Permission denied: " + shut);
+    EXPECT_EQ(read_file(path("file")), "whole");
+    expect_refused(replace, "file", "Permission denied: ");
+    expect_refused(read_file, "secret", "Permission denied: ");
+    EXPECT_EQ(caught(replace, path("shut/new")).text, "Permission denied: " + path("shut"));
     EXPECT_EQ(names(), (std::set<std::string>{"file", "secret", "shut"}));
     EXPECT_EQ(read("file"), "whole");
 }
@@ -249,19 +235,15 @@ TEST_F(SharedFile, is_not_replaced_through_a_link_that_another_user_placed)
     make_folder("own", nobody, 0700);
     make_folder("shared", 0, 01777);
     make_folder("open", 0, 0777);
-    struct {
-        std::string link, target;
-        uid_t owner;
-        bool followed;
-    } const cases[] = {
-        {"shared/mine", "../own/army", nobody, true},         {"shared/of_the_folder", "../own/army", 0, true},
-        {"open/theirs", "../own/army", stranger, true},       {"own/handed", "../own/army", stranger, true},
-        {"shared/theirs", "../own/army", stranger, false},    {"own/chain", "../shared/theirs", nobody, false},
-        {"shared/dangling", "../own/new", stranger, false},   {"own/dangling", "../shared/dangling", nobody, false},
-        {"shared/dangling_mine", "../own/new", nobody, true},
-    };
+    // clang-format off
+    struct { std::string link, target; uid_t owner; bool followed; } const cases[] = {
+        {"shared/mine", "../own/army", nobody, true}, {"shared/of_the_folder", "../own/army", 0, true},
+        {"open/theirs", "../own/army", stranger, true}, {"own/handed", "../own/army", stranger, true},
+        {"shared/theirs", "../own/army", stranger, false}, {"own/chain", "../shared/theirs", nobody, false},
+        {"shared/dangling", "../own/new", stranger, false}, {"own/dangling", "../shared/dangling", nobody, false},
+        {"shared/dangling_mine", "../own/new", nobody, true}};
+    // clang-format on
     for (auto const& row : cases) {
-        SCOPED_TRACE(row.link);
         fs::create_symlink(row.target, path(row.link));
         give(row.link, row.owner, 0, 0);
         write("own/army", "whole");
@@ -269,36 +251,33 @@ TEST_F(SharedFile, is_not_replaced_through_a_link_that_another_user_placed)
         auto const refusal = "A symbolic link of another user is not followed here: " + path(row.link);
         EXPECT_EQ(saved_by_nobody(row.link), row.followed ? "" : refusal);
         bool const is_new = row.target == "../own/new";
-        EXPECT_EQ(read(is_new ? "own/new" : "own/army").size(), row.followed ? 1001U : is_new ? 0U : 5U);
+        EXPECT_EQ(read(is_new ? "own/new" : "own/army").size(), row.followed ? 1001U : is_new ? 0U : 5U) << row.link;
     }
 }
 
 TEST_F(SharedFile, keeps_its_owner_and_its_rights_where_they_can_be_given)
 {
-    struct {
-        uid_t saver, owner;
-        gid_t group;
-        unsigned mode;
-        char const* saved;
-    } const cases[] = {
-        // clang-format off
+    // clang-format off
+    struct { uid_t saver, owner; gid_t group; unsigned mode; char const* saved; } const cases[] = {
         {0, stranger, 4242, 0640, "1000:4242 640"}, {0, stranger, 0, 0600, "1000:0 600"},
         {0, stranger, 4242, 06775, "1000:4242 6775"}, {0, 0, 4242, 0664, "0:4242 664"},
         {nobody, nobody, 0, 0664, "65534:0 664"},
         {nobody, nobody, 4242, 0664, "65534:0 604"}, // no member: what the group might do, the new group must not
         {nobody, nobody, 4242, 0606, "65534:0 600"}, // and the old group must not what all others might
-        {nobody, stranger, 0, 02660, "65534:0 660"}, {nobody, stranger, 4242, 04666, "65534:0 606"},
-        // clang-format on
-    };
+        {nobody, stranger, 0, 02660, "65534:0 660"}, {nobody, stranger, 4242, 04666, "65534:0 606"}};
+    // clang-format on
     make_folder("folder", nobody, 0700);
+    auto const file = path("folder/file");
     for (auto const& row : cases) {
         write("folder/file", "whole");
         give("folder/file", row.owner, row.group, row.mode);
-        auto const failure =
-            row.saver == nobody ? saved_by_nobody("folder/file") : caught(replace, path("folder/file")).text;
-        EXPECT_EQ(failure, "");
-        EXPECT_EQ(rights("folder/file"), row.saved) << row.owner << ":" << row.group << " " << std::oct << row.mode;
-        fs::remove(path("folder/file"));
+        EXPECT_EQ(row.saver == nobody ? saved_by_nobody("folder/file") : caught(replace, file).text, "");
+        struct stat is = {};
+        EXPECT_EQ(::stat(file.c_str(), &is), 0);
+        auto const saved = testing::Message()
+                           << is.st_uid << ":" << is.st_gid << " " << std::oct << (is.st_mode & 07777U);
+        EXPECT_EQ(saved.GetString(), row.saved) << row.owner << ":" << row.group << " " << std::oct << row.mode;
+        fs::remove(file);
     }
 }
 
@@ -311,11 +290,9 @@ TEST_F(SharedFile, leaves_the_temporary_files_of_others_and_those_in_use)
         give(name, owner, 0, 0666);
         return path(name);
     };
-    constexpr int foreign = 300;
-    for (int number = 0; number < foreign; ++number) make(number, stranger);
-    make(foreign, nobody); // the only one to go
-    auto const linked = make(foreign + 1, nobody), busy = make(foreign + 2, nobody),
-               pipe = path("shared/.warhost-a.tmp");
+    for (int number = 0; number < 300; ++number) make(number, stranger);
+    make(300, nobody); // the only one to go
+    auto const linked = make(301, nobody), busy = make(302, nobody), pipe = path("shared/.warhost-a.tmp");
     fs::create_hard_link(linked, path("shared/army"));
     ASSERT_EQ(::mkfifo(pipe.c_str(), 0666), 0);
     ASSERT_EQ(::lchown(pipe.c_str(), nobody, 0), 0);
@@ -323,8 +300,8 @@ TEST_F(SharedFile, leaves_the_temporary_files_of_others_and_those_in_use)
     ASSERT_EQ(::flock(other_save, LOCK_EX), 0);
     for (int save = 0; save < 2; ++save) EXPECT_EQ(saved_by_nobody("shared/x.Army"), ""); // the second needs a name
     ::close(other_save);
-    auto const left = std::distance(fs::directory_iterator{path("shared")}, fs::directory_iterator{});
-    EXPECT_EQ(left, foreign + 5); // linked, its second name, busy, the pipe, the army
+    // The foreign ones, linked, its second name, busy, the pipe, the army.
+    EXPECT_EQ(std::distance(fs::directory_iterator{path("shared")}, fs::directory_iterator{}), 300 + 5);
     EXPECT_FALSE(fs::exists(path("shared/.warhost-300.tmp")));
 }
 
