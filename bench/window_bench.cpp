@@ -2,8 +2,8 @@
 
 #include "battle/random.h"
 #include "ui/main.h"
-#include "ui/qt/qt_desktop.h"
-#include "ui/qt/window.h"
+#include "ui/qt/dialogs/qt_desktop.h"
+#include "ui/qt/screens/window.h"
 
 #include <QApplication>
 #include <QLineEdit>

@@ -2,10 +2,10 @@
 
 #include "battle/random.h"
 #include "ui/main.h"
-#include "ui/qt/outline_style.h"
-#include "ui/qt/qt_desktop.h"
-#include "ui/qt/report_box.h"
-#include "ui/qt/window.h"
+#include "ui/qt/dialogs/qt_desktop.h"
+#include "ui/qt/dialogs/report_box.h"
+#include "ui/qt/screens/window.h"
+#include "ui/qt/widgets/outline_style.h"
 
 #include <QApplication>
 #include <QPalette>

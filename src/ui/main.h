@@ -155,7 +155,7 @@ public:
     bool Updating = false; // CurArmy is being put on the screen: CalcTotal does nothing
     Failure pending_error; // number 0: none
 
-    // Window (window.cpp)
+    // Window (window_handlers.cpp)
 
     void Form_Load();
     void Form_Resize();
@@ -191,7 +191,7 @@ public:
     void CalcTotal();
     void CalcTroopRatio(int Side);
 
-    // Misc panel (misc_panel.cpp)
+    // Misc panel (misc_rows.cpp)
 
     /// Makes the list's first rows; a list may have millions.
     void ReadMiscMod();

@@ -1,13 +1,13 @@
 #include "ui/main.h"
 
 #include "battle/random.h"
-#include "ui/qt/about_box.h"
+#include "ui/qt/dialogs/about_box.h"
+#include "ui/qt/dialogs/qt_desktop.h"
 #include "ui/qt/end_signals.h"
-#include "ui/qt/help_viewer.h"
-#include "ui/qt/outline_style.h"
-#include "ui/qt/qt_desktop.h"
+#include "ui/qt/help/help_viewer.h"
+#include "ui/qt/screens/window.h"
 #include "ui/qt/toolkit_settings.h"
-#include "ui/qt/window.h"
+#include "ui/qt/widgets/outline_style.h"
 
 #include <QApplication>
 #include <QIcon>

@@ -1,9 +1,9 @@
 // The dialogs of the real window system, answered by keys.
 #include "battle/odds.h"
 #include "temporary_folder.h"
-#include "ui/qt/file_chooser.h"
-#include "ui/qt/qt_desktop.h"
-#include "ui/qt/text.h"
+#include "ui/qt/dialogs/file_chooser.h"
+#include "ui/qt/dialogs/qt_desktop.h"
+#include "ui/qt/widgets/text.h"
 
 #include <QAbstractItemView>
 #include <QApplication>

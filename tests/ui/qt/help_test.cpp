@@ -1,6 +1,6 @@
 // The manual as it ships, its viewer, and the About box. Needs a QApplication.
-#include "ui/qt/about_box.h"
-#include "ui/qt/help_viewer.h"
+#include "ui/qt/dialogs/about_box.h"
+#include "ui/qt/help/help_viewer.h"
 
 #include "files/modifier_list.h"
 

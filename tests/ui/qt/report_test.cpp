@@ -1,8 +1,8 @@
 // What is shown of a simulation while it runs and when it is done.
 #include "battle/odds.h"
-#include "ui/qt/battle_charts.h"
-#include "ui/qt/qt_desktop.h"
-#include "ui/qt/report_box.h"
+#include "ui/qt/dialogs/battle_charts.h"
+#include "ui/qt/dialogs/qt_desktop.h"
+#include "ui/qt/dialogs/report_box.h"
 
 #include <QApplication>
 #include <QLabel>

@@ -3,8 +3,8 @@
 
 #include "battle/random.h"
 #include "ui/main.h"
-#include "ui/qt/qt_desktop.h"
-#include "ui/qt/window.h"
+#include "ui/qt/dialogs/qt_desktop.h"
+#include "ui/qt/screens/window.h"
 
 #include <QAction>
 #include <QApplication>

@@ -5,9 +5,9 @@
 #include "temporary_folder.h"
 #include "ui/agreement.h"
 #include "ui/qt/end_signals.h"
-#include "ui/qt/option_choice.h"
-#include "ui/qt/text.h"
-#include "ui/qt/value_box.h"
+#include "ui/qt/widgets/option_choice.h"
+#include "ui/qt/widgets/text.h"
+#include "ui/qt/widgets/value_box.h"
 
 #include <QAccessible>
 #include <QCheckBox>

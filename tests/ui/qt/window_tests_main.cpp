@@ -1,5 +1,5 @@
-#include "ui/qt/outline_style.h"
 #include "ui/qt/toolkit_settings.h"
+#include "ui/qt/widgets/outline_style.h"
 
 #include <QApplication>
 #include <QFile>

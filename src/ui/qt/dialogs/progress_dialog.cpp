@@ -1,0 +1,56 @@
+#include "ui/qt/dialogs/progress_dialog.h"
+
+#include <QCoreApplication>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QInputMethod>
+
+namespace warhost {
+
+namespace {
+
+constexpr int bar_steps = 1000;
+
+} // namespace
+
+ProgressDialog::ProgressDialog(QWidget* window, QString const& title, QString const& spoken)
+    : QDialog(window, Qt::CustomizeWindowHint | Qt::WindowTitleHint),
+      window_(window)
+{
+    if (window != nullptr) {
+        QGuiApplication::inputMethod()->commit(); // while the window still takes it
+        focus_ = window->focusWidget();
+        window->setEnabled(false);
+        setEnabled(true); // a child window follows the one below it
+    }
+    setWindowTitle(title);
+    setWindowModality(Qt::ApplicationModal);
+    bar_.setMinimumWidth(fontMetrics().averageCharWidth() * 50);
+    bar_.setAccessibleName(spoken);
+    column_.addWidget(&bar_);
+    bar_.setTextVisible(false);
+    auto* const texts = new QHBoxLayout;
+    texts->addWidget(&left_);
+    texts->addStretch();
+    texts->addWidget(&right_);
+    column_.addLayout(texts);
+}
+
+ProgressDialog::~ProgressDialog()
+{
+    if (window_) window_->setEnabled(true);
+    if (focus_) focus_->setFocus(Qt::OtherFocusReason);
+}
+
+void ProgressDialog::show_share(double share, QString const& left, QString const& right)
+{
+    bar_.setRange(0, share < 0 ? 0 : bar_steps);
+    bar_.setValue(static_cast<int>(share * bar_steps));
+    left_.setText(left);
+    right_.setText(right);
+    show();
+    // What the user does meanwhile is lost on this window, and does not wait for its end.
+    QCoreApplication::processEvents();
+}
+
+} // namespace warhost

@@ -1,0 +1,55 @@
+// The manual's own window.
+#pragma once
+
+#include "ui/qt/help/help_contents.h"
+
+#include <QKeySequence>
+#include <QList>
+#include <QMainWindow>
+
+#include <functional>
+#include <vector>
+
+class QMenu;
+class QToolBar;
+class QTreeWidget;
+class QTreeWidgetItem;
+
+namespace warhost {
+
+class FindBar;
+class HelpPage;
+
+/// Contents at the left, the page at the right. What is missing - the manual, a page, a topic - is told in the
+/// window. The program ends without waiting for it.
+class HelpViewer : public QMainWindow {
+    Q_OBJECT
+
+public:
+    /// folder: where contents.txt and the pages lie.
+    explicit HelpViewer(QString const& folder, QWidget* parent = nullptr);
+
+    /// Shows the topic, or the contents page for 0, in front of the other windows.
+    void open(int topic);
+
+private:
+    void show_topic(int topic);
+    void arrange();
+    void make_actions();
+    void make_page_actions(QToolBar& bar);
+    void make_find_actions(QToolBar& bar);
+    void make_view_actions(QToolBar& bar);
+    QAction* add_action(QMenu& menu, char const* name, char const* caption, QList<QKeySequence> const& keys,
+                        std::function<void()> act);
+    void fill_tree();
+    void follow_page(QUrl const& address);
+
+    QString folder_;
+    std::vector<HelpEntry> entries_;
+    std::vector<QTreeWidgetItem*> items_; // one per entry
+    QTreeWidget* tree_;
+    HelpPage* page_;
+    FindBar* find_bar_;
+};
+
+} // namespace warhost

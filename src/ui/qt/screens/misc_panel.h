@@ -1,0 +1,55 @@
+// The panel of misc modifiers and feats.
+#pragma once
+
+#include "ui/main.h"
+#include "ui/qt/widgets/caption_frame.h"
+#include "ui/qt/widgets/scale.h"
+
+#include <functional>
+#include <vector>
+
+class QCheckBox;
+
+namespace warhost {
+
+class ValueBox;
+
+/// Rows stand where the fields say; they do not move with the panel's size. A row gets its widgets when the panel is
+/// first tall enough to show it.
+class MiscPanel : public CaptionFrame {
+    Q_OBJECT
+
+public:
+    MiscPanel(Main& form, Scale const& scale, std::function<void(int)> show_help, QWidget* parent);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    struct Row {
+        int index;
+        QCheckBox* box;
+        ValueBox* value;
+    };
+
+    void make_rows_in_sight();
+    void make_row(int index);
+    void colour(Row const& row) const;
+    void fit_caption(Row const& row) const;
+
+    Main& form_;
+    Scale scale_;
+    std::function<void(int)> show_help_;
+    std::vector<Row> rows_;
+};
+
+/// What lies behind the rows, taken from the theme: the button-face colour and the stripe, which differ visibly.
+struct RowColours {
+    QColor face;
+    QColor stripe;
+};
+RowColours row_colours(QPalette const& palette);
+
+} // namespace warhost

@@ -1,0 +1,68 @@
+// The main window: menus, the tab strip with its page, and the two screens.
+#pragma once
+
+#include "ui/main.h"
+#include "ui/qt/widgets/scale.h"
+
+#include <QMainWindow>
+#include <QTimer>
+
+namespace warhost {
+
+class ArmyPage;
+class CombatPage;
+class QtDesktop;
+class ScreenArea;
+class TabPage;
+
+/// Loads the form and shows it. The font and the scale are the user's, within what the screen can hold; on a screen
+/// that cannot hold the base size the two screens scroll. The form must not be used once the window is gone.
+class Window : public QMainWindow {
+    Q_OBJECT
+
+public:
+    Window(Main& form, QtDesktop& desktop);
+    ~Window() override;
+
+    /// Asks as for any other request to close the window, where it may ask at all; after a Yes the window closes from
+    /// the event loop, without asking again. False, also while a file is read or written, when the session must go on.
+    bool session_may_end(bool may_ask);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void make_menus();
+    void make_tab_strip();
+    void make_screens();
+    void make_combat_screen();
+    void fit_to_screen();
+    void follow_size();
+    QRect place_of(Frame const& frame, int margin) const;
+    void place_tab_strip();
+    void place_screen(Frame const& frame, ScreenArea& screen);
+    void place_misc_panel();
+    void choose_tab(int position);
+    void focus_army_name();
+    void colour_read_only_boxes();
+    bool waits_for_disk() const;
+    bool confirms_quit();
+
+    Main& form_;
+    QtDesktop& desktop_;
+    Scale scale_;
+    bool scrolls_ = false;      // the screen cannot hold the base size
+    bool asks_to_quit_ = false; // the question is open
+    bool quits_ = false;        // the answer was Yes
+    QTimer close_later_;
+    QSize extra_{0, 0}; // what the scroll bars take from the client area
+    QWidget* client_;
+    TabPage* tabs_ = nullptr;
+    ArmyPage* army_ = nullptr;
+    CombatPage* combat_ = nullptr; // made when it is first shown, not to slow the start
+};
+
+} // namespace warhost

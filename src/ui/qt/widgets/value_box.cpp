@@ -1,0 +1,140 @@
+#include "ui/qt/widgets/value_box.h"
+
+#include "ui/qt/widgets/binding.h"
+#include "ui/qt/widgets/text.h"
+
+#include <QAccessibleWidget>
+#include <QCompleter>
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPointer>
+#include <QSignalBlocker>
+#include <QStringList>
+#include <QWheelEvent>
+
+#include <algorithm>
+
+namespace warhost {
+
+namespace {
+
+constexpr int page_of_places = 10;
+
+/// What a screen reader is told: the toolkit's own interface gives an editable box's text for its name.
+class SpokenBox : public QAccessibleWidget {
+public:
+    explicit SpokenBox(QComboBox& box) : QAccessibleWidget(&box, QAccessible::ComboBox), box_(box) {}
+
+    QString text(QAccessible::Text kind) const override
+    {
+        return kind == QAccessible::Value ? box_.currentText() : QAccessibleWidget::text(kind);
+    }
+    int childCount() const override { return 1; }
+    QAccessibleInterface* child(int) const override { return QAccessible::queryAccessibleInterface(box_.lineEdit()); }
+    int indexOfChild(QAccessibleInterface const* child) const override
+    {
+        return child->object() == box_.lineEdit() ? 0 : -1;
+    }
+    QAccessible::State state() const override
+    {
+        auto state = QAccessibleWidget::state();
+        state.expandable = state.hasPopup = state.editable = true;
+        return state;
+    }
+    QStringList actionNames() const override { return {showMenuAction(), setFocusAction()}; }
+    void doAction(QString const& name) override
+    {
+        if (name == showMenuAction()) box_.showPopup();
+        else QAccessibleWidget::doAction(name);
+    }
+
+private:
+    QComboBox& box_;
+};
+
+QAccessibleInterface* spoken_box(QString const&, QObject* object)
+{
+    auto* const box = dynamic_cast<ValueBox*>(object);
+    return box != nullptr ? new SpokenBox{*box} : nullptr;
+}
+
+} // namespace
+
+/// As setEditable does, but without making the popup, and a completer that would alter what is typed: many boxes, most
+/// of them never opened, must not slow the start.
+void ValueBox::put_line_edit()
+{
+    static QPointer<QCompleter> spare; // setLineEdit makes a completer where there is none
+    if (spare.isNull()) spare = new QCompleter{QCoreApplication::instance()};
+    auto* const edit = new QLineEdit{this};
+    edit->setCompleter(spare);
+    setLineEdit(edit);
+    edit->setCompleter(nullptr);
+}
+
+ValueBox::ValueBox(ComboBox& field) : field_(field)
+{
+    static bool const installed = (QAccessible::installFactory(spoken_box), true);
+    static_cast<void>(installed);
+    put_line_edit();
+    setInsertPolicy(NoInsert);
+    // Leaving the box or pressing Enter chooses nothing, even when the typed text is in the list.
+    disconnect(lineEdit(), &QLineEdit::returnPressed, this, nullptr);
+    disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
+    setFocusPolicy(Qt::StrongFocus); // by default the wheel would focus the box, and then change it
+    connect(this, &QComboBox::activated, this, [this](int place) {
+        if (takes_input(*this)) field_.choose(place);
+    });
+}
+
+void ValueBox::showPopup()
+{
+    QStringList proposals;
+    proposals.reserve(field_.list_size());
+    for (int place = 0; place < field_.list_size(); ++place) proposals.push_back(to_qt(field_.item(place)));
+    QSignalBlocker const filling{lineEdit()};
+    clear();
+    addItems(proposals);
+    setCurrentIndex(field_.listed_index());
+    setEditText(to_qt(field_.text())); // filling the list has put its first item there
+    QComboBox::showPopup();
+}
+
+void ValueBox::step(int places)
+{
+    int const last = field_.list_size() - 1;
+    if (last < 0) return;
+    int const place = field_.listed_index();
+    int const target = place < 0 ? (places > 0 ? 0 : last) : std::clamp(place + places, 0, last);
+    if (target != place) field_.choose(target);
+}
+
+void ValueBox::keyPressEvent(QKeyEvent* event)
+{
+    if (event->modifiers().testFlag(Qt::AltModifier)) {
+        QComboBox::keyPressEvent(event);
+        return;
+    }
+    switch (event->key()) {
+    case Qt::Key_Up: step(-1); return;
+    case Qt::Key_Down: step(1); return;
+    case Qt::Key_PageUp: step(-page_of_places); return;
+    case Qt::Key_PageDown: step(page_of_places); return;
+    default: QComboBox::keyPressEvent(event);
+    }
+}
+
+void ValueBox::wheelEvent(QWheelEvent* event)
+{
+    // A wheel that passes over the box on its way elsewhere changes nothing.
+    if (!hasFocus()) {
+        event->ignore();
+        return;
+    }
+    int const turn = event->angleDelta().y();
+    if (turn != 0) step(turn > 0 ? -1 : 1);
+    event->accept();
+}
+
+} // namespace warhost
