@@ -1,6 +1,6 @@
 // Any document is paragraphs of printable runs, no longer than it allows.
 
-#include "files/code_page.h"
+#include "base/code_page.h"
 #include "require.h"
 #include "ui/rich_text_reader.h"
 

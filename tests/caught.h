@@ -1,7 +1,7 @@
 // What a failing step throws, as a value.
 #pragma once
 
-#include "army/failure.h"
+#include "base/failure.h"
 
 namespace warhost {
 

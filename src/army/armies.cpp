@@ -1,7 +1,7 @@
 #include "army/armies.h"
 
-#include "army/checked.h"
 #include "army/level_bonus.h"
+#include "base/checked.h"
 
 namespace warhost {
 
@@ -41,10 +41,9 @@ void Armies::CalcArmyTotal()
     CurArmy.TotalMod = checked_sum(sum, CurArmy.LevelBonus);
 }
 
-void Armies::CalcOtherTotal(int selected_tab)
+void Armies::CalcOtherTotal(int Side)
 {
-    if (selected_tab != tab_side_a && selected_tab != tab_side_b) return;
-    Army& other = selected_tab == tab_side_a ? ArmyB : ArmyA;
+    Army& other = opposing(Side);
     std::int16_t const bonus = level_bonus(other.Level, other.OtherLevel);
     other.TotalMod = checked_sum(total_without_level(other), bonus);
     other.LevelBonus = bonus;

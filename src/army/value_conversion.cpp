@@ -1,6 +1,6 @@
 #include "army/value_conversion.h"
 
-#include "army/characters.h"
+#include "base/characters.h"
 
 #include <algorithm>
 #include <array>

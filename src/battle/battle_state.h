@@ -16,7 +16,6 @@ struct BattleState {
     int ResultB = 0;
     BattleWinner Winner = side_a_won;
     int WinMargin = 0;
-    int CasRollBonus = 0;
     int LoserCasualty = 0; // percent
     int CasRangeLow = 0;   // percent of LoserCasualty
     int CasRangeHigh = 0;

@@ -1,7 +1,7 @@
 #include "files/army_format.h"
 
-#include "army/failure.h"
-#include "files/code_page.h"
+#include "base/code_page.h"
+#include "base/failure.h"
 
 #include <algorithm>
 #include <bit>

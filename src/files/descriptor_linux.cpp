@@ -1,6 +1,6 @@
 #include "files/descriptor_linux.h"
 
-#include "army/failure.h"
+#include "base/failure.h"
 
 #include <array>
 #include <chrono>

@@ -1,6 +1,6 @@
 #include "files/handle_windows.h"
 
-#include "army/failure.h"
+#include "base/failure.h"
 
 #include <array>
 #include <string>

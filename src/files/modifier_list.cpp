@@ -1,7 +1,7 @@
 #include "files/modifier_list.h"
 
 #include "army/value_conversion.h"
-#include "files/code_page.h"
+#include "base/code_page.h"
 
 #include <string_view>
 #include <utility>

@@ -1,6 +1,6 @@
 #include "files/place_linux.h"
 
-#include "army/failure.h"
+#include "base/failure.h"
 
 #include <climits>
 #include <fcntl.h>

@@ -1,6 +1,6 @@
 #include "files/system_file.h"
 
-#include "army/failure.h"
+#include "base/failure.h"
 #include "files/descriptor_linux.h"
 
 #include <fcntl.h>

@@ -1,7 +1,7 @@
 // The system's error codes as failures.
 #pragma once
 
-#include "army/failure.h"
+#include "base/failure.h"
 
 #include <string>
 #include <system_error>

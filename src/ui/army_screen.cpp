@@ -170,7 +170,7 @@ void Main::CalcTotal()
     quiet_step([&] { CalcTotalNo(); });
     quiet_step([&] { CalcTroopRatio(tab); });
     quiet_step([&] { CalcArmyTotal(); });
-    quiet_step([&] { CalcOtherTotal(tab); });
+    if (army_tab_selected()) quiet_step([&] { CalcOtherTotal(tab); });
     quiet_step([&] { CurArmy_Save(); });
     quiet_step([&] {
         txtTotal.set_text(plain_text(CurArmy.TotalMod));

@@ -1,4 +1,4 @@
-#include "army/checked.h"
+#include "base/checked.h"
 #include "battle/dice.h"
 #include "battle/losses.h"
 #include "battle/outcome_table.h"
@@ -48,17 +48,16 @@ void Main::txtResult_Change(int /*Index*/)
         lblWinBy.set_caption(plain_text(battle.WinMargin));
         Outcome const* const outcome = outcome_of(battle.WinMargin);
         describe(txtBattleResults, outcome != nullptr ? outcome->account : "");
-        battle.CasRollBonus = casualty_roll_bonus(battle.WinMargin);
-        txtCasRollBonus.set_text(plain_text(battle.CasRollBonus));
+        txtCasRollBonus.set_text(plain_text(casualty_roll_bonus(battle.WinMargin)));
         txtLoserCasualty.set_text(plain_text(outcome != nullptr ? outcome->percent : 0));
     });
     if (battle.Winner == tie) txtVictorCasRoll_Change();
 }
 
 /// No description rather than one of another battle, should there be no memory for it.
-void Main::describe(RichTextBox& box, std::string_view account)
+void Main::describe(RichTextBox& box, std::string_view account, std::string_view heading)
 {
-    if (!quiet_step([&] { box.set_document(rich_text_document(account)); })) box.set_document({});
+    if (!quiet_step([&] { box.set_document(rich_text_account(heading, account)); })) box.set_document({});
 }
 
 void Main::txtLoserCasualty_Change()
@@ -81,12 +80,14 @@ void Main::cmdRollCasualty_Click()
 
 void Main::txtVictorCasRoll_Change()
 {
+    std::string_view heading;
     std::string_view account;
     quiet_step([&] {
         int const roll = TextToInt(txtVictorCasRoll.text());
         VictorRow const* const row =
             victor_row_of({roll, roll - effective_casualty_bonus(), chkMinus5.state() == 1, chkPlus5.state() == 1});
         if (row == nullptr) return;
+        heading = row->heading;
         account = row->account;
         battle.CasRangeLow = row->low;
         battle.CasRangeHigh = row->high;
@@ -94,6 +95,7 @@ void Main::txtVictorCasRoll_Change()
         if (row->box == Box::plus5) chkPlus5.set_state(1);
     });
     if (battle.Winner == tie) {
+        heading = {};
         account = tie_account;
         battle.CasRangeLow = battle.CasRangeHigh = tie_percent;
         cmdRollVictorCas_Click();
@@ -104,7 +106,7 @@ void Main::txtVictorCasRoll_Change()
                                     ? plain_text(battle.CasRangeLow)
                                     : plain_text(battle.CasRangeLow) + " to " + plain_text(battle.CasRangeHigh));
     });
-    describe(txtVictorDesc, account);
+    describe(txtVictorDesc, account, heading);
 }
 
 void Main::cmdRollVictorCas_Click()

@@ -1,30 +1,8 @@
 #include "ui/main.h"
 
-#include "army/modifier_options.h"
-
 namespace warhost {
 
-Main::Main(Desktop& desktop, RandomSource& random) : desktop_(desktop), random_(random)
-{
-    for (auto const& option : options) {
-        opt.create(option.index, std::string{option.caption}, std::string{option.tag},
-                   option_groups_.at(static_cast<std::size_t>(option.category)));
-    }
-    for (auto& [category, result] : cmbOpt) result.tooltip = "Final Result of options";
-    cmbLevel.set_list(1, 20, plain_text);
-    chkMisc(0).visible = false;
-    chkMisc(0).place = {120, 0, 5655, 255};
-    cmbMisc(0).visible = false;
-    cmbMisc(0).place = {5040, 0, 735, 315};
-    cmdSaveArmy.tooltip = "Save this army to file";
-    cmdLoadArmy.tooltip = "Load an army from a file";
-    chkPlus5.tooltip = "Add +5 to roll";
-    chkMinus5.tooltip = "Subtract -5 from roll";
-    txtTotal.read_only = true;
-    for (auto& [row, name] : txtAName) name.read_only = true;
-    for (auto& [row, count] : txtANum) count.read_only = true;
-    connect_handlers();
-}
+Main::Main(Desktop& desktop, RandomSource& random) : desktop_(desktop), random_(random) { connect_handlers(); }
 
 void Main::connect_handlers()
 {

@@ -4,8 +4,8 @@
 // empty when there is none; the handlers (Change, Click) belong to the form. Lengths are in twips.
 #pragma once
 
-#include "army/failure.h"
 #include "army/value_conversion.h"
+#include "base/failure.h"
 
 #include <algorithm>
 #include <cstdint>

@@ -1,16 +1,16 @@
-// The form: every control of the window as a field, and every handler.
+// The form: every handler, over the controls of the window and of both screens.
 #pragma once
 
 #include "army/armies.h"
-#include "army/modifier_options.h"
 #include "battle/battle_state.h"
 #include "battle/random.h"
 #include "files/modifier_list.h"
+#include "ui/army_controls.h"
+#include "ui/combat_controls.h"
 #include "ui/desktop.h"
-#include "ui/fields.h"
 #include "ui/memory_reserve.h"
+#include "ui/window_controls.h"
 
-#include <array>
 #include <cstdint>
 #include <new>
 #include <string>
@@ -21,133 +21,12 @@ namespace warhost {
 
 /// Runs without any window system: a screen, where there is one, binds its widgets to the fields.
 /// Form_Load must run once before anything else, when the window is created. No handler lets a Failure or a
-/// std::bad_alloc out.
-class Main : public Armies {
+/// std::bad_alloc out. Controls and records are bases, so that handlers call them by the product's own names.
+class Main : public WindowControls, public ArmyControls, public CombatControls, public Armies {
 public:
     Main(Desktop& desktop, RandomSource& random);
     Main(Main const&) = delete;
     Main& operator=(Main const&) = delete;
-
-    // The window
-
-    Tabs TabStrip{"TabStrip", "", {0, 45, 12840, 9255}};
-    Frame FrameArmy{"FrameArmy", "", {120, 480, 12600, 8715}};
-    Frame FrameCombat{"FrameCombat", "", {120, 360, 12255, 8895}, false};
-    Frame FrameMisc{"FrameMisc", "Misc. Modifiers and Feats", {6360, 360, 6135, 8295}};
-
-    // The army screen
-
-    ControlArray<TextLabel> Label{
-        "Label",
-        {
-            {0, "Name of Army:"},
-            {1, "#1"},
-            {2, "#2"},
-            {3, "#3"},
-            {4, "#4"},
-            {5, "#5"},
-            {6, "#6"},
-            {7, "(possessed by >30% of force)"},
-            {8, "Side A Gets:"},
-            {9, "Side B Gets:"},
-            {10, "Victor's Casualty Roll:"},
-            {11, "Had:"},
-            {12, "Loses:"},
-            {13, "Unit Name:"},
-            {14, "% of loser's"},
-            {15, "(with bonus:)"},
-            {16, "Loser's Casualties: "},
-            {17, "Victor's Casualties (Roll"},
-            {18, "percent"},
-            {19, "Unit Name:"},
-            {20, "Loses:"},
-            {21, "Had:"},
-            {22, "%"},
-            {23, "#7"},
-            {24, "#8"},
-            {25,
-             "Note: If the +5 or -5 box is checked, the victor must click reroll.  Uncheck these before the next battle"},
-        }};
-    TextBox txtArmyName{"txtArmyName"};
-    Button cmdSaveArmy{"cmdSaveArmy", "Save"};
-    Button cmdLoadArmy{"cmdLoadArmy", "Load"};
-    TextLabel Label4{"Label4", "Total of Modifiers (this screen only)"};
-    TextBox txtTotal{"txtTotal", "0"};
-
-    Frame FrameUnits{"FrameUnits", "Units and Number of Soldiers"};
-    TextLabel Label1{"Label1", "Type of Unit"};
-    TextLabel Label2{"Label2", "# of Soldiers"};
-    ControlArray<TextBox> txtUnitType{"txtUnitType", 0, unit_rows - 1};
-    ControlArray<TextBox> txtUnitNum{"txtUnitNum", 0, unit_rows - 1};
-    TextLabel Label3{"Label3", "Total # of soldiers:"};
-    TextBox txtTotalNo{"txtTotalNo", "0"};
-    TextLabel Label12{"Label12", "Troop Ratio"};
-    TextLabel lblRatio{"lblRatio", "1:1"};
-    TextLabel Label14{"Label14", "gives"};
-    TextLabel lblRatioBonus{"lblRatioBonus", "+0"};
-
-    Frame FrameDiscipline{"FrameDiscipline", std::string{category_captions[0]}};
-    Frame Frame1{"Frame1", std::string{category_captions[1]}};
-    Frame Frame2{"Frame2", std::string{category_captions[2]}};
-    Frame Frame3{"Frame3", std::string{category_captions[3]}};
-    Frame Frame4{"Frame4", std::string{category_captions[4]}};
-    Frame Frame5{"Frame5", std::string{category_captions[5]}};
-    Frame Frame10{"Frame10", std::string{category_captions[6]}};
-    Frame Frame11{"Frame11", std::string{category_captions[7]}};
-    ControlArray<OptionButton> opt{"opt"};
-    ControlArray<ComboBox> cmbOpt{"cmbOpt", 0, category_count - 1, "0"};
-    TextLabel Label15{"Label15", "Average Troop Level:"};
-    ComboBox cmbLevel{"cmbLevel", "1"};
-    TextLabel Label16{"Label16", "vs"};
-    TextLabel lblOtherLevel{"lblOtherLevel", "0"};
-    TextLabel Label18{"Label18", "gives"};
-    TextLabel lblLevelBonus{"lblLevelBonus", "+0"};
-    ControlArray<CheckBox> chkMisc{"chkMisc", 0, 0, "MiscMod"};
-    ControlArray<ComboBox> cmbMisc{"cmbMisc", 0, 0, "Combo1"};
-
-    // The combat screen
-
-    TextLabel Label5{"Label5", "Army Side A Total Modifier:"};
-    TextLabel Label6{"Label6", "Army Side B Total Modifier:"};
-    ControlArray<TextBox> txtTotalMod{"txtTotalMod", 0, 1, "0"};
-    Button cmdRollAll{"cmdRollAll", "Roll All"};
-    Button cmdSimulate{"cmdSimulate", "Simulate N Battles"};
-
-    Frame Frame6{"Frame6", "Roll Battle"};
-    ControlArray<Button> cmdRoll{"cmdRoll", {{0, "Roll For Side A"}, {1, "Roll For Side B"}}};
-    ControlArray<TextBox> txtResult{"txtResult", 0, 1, "0"};
-    ControlArray<TextLabel> Label7{"Label7", {{0, "Winner:"}}};
-    TextLabel lblWinner{"lblWinner", " Side A "};
-    TextLabel Label8{"Label8", "by"};
-    TextLabel lblWinBy{"lblWinBy", "0"};
-    TextLabel Label9{"Label9", "points"};
-
-    Frame Frame7{"Frame7", "Apply Casualties"};
-    TextBox txtLoserCasualty{"txtLoserCasualty", "0"};
-    TextBox txtVictorCasRoll{"txtVictorCasRoll", "0"};
-    Button cmdRollCasualty{"cmdRollCasualty", "Roll"};
-    TextBox txtCasRollBonus{"txtCasRollBonus", "0"};
-    CheckBox chkPlus5{"chkPlus5", "+5"};
-    CheckBox chkMinus5{"chkMinus5", "-5"};
-    TextLabel lblCasRange{"lblCasRange", "0 to 0"};
-    Button cmdRollVictorCas{"cmdRollVictorCas", "Roll"};
-    TextBox txtVictorCasPercent{"txtVictorCasPercent", "0"};
-    TextLabel lblLoserPercent{"lblLoserPercent", "0%"};
-    TextLabel Label13{"Label13", "is"};
-    TextBox txtVictorCas{"txtVictorCas", "0"};
-
-    Frame frmSideA{"frmSideA", "Side A"};
-    Frame Frame8{"Frame8", "Side B"};
-    ControlArray<TextBox> txtAName{"txtAName", 0, 2 * unit_rows - 1};
-    ControlArray<TextBox> txtANum{"txtANum", 0, 2 * unit_rows - 1, "0"};
-    ControlArray<TextBox> txtLoses{"txtLoses", 0, 2 * unit_rows - 1, "0"};
-    ControlArray<Button> cmdApplyCasualties{"cmdApplyCasualties", 0, 1, "Apply Casualties"};
-
-    Frame Frame9{"Frame9", "Description of Battle"};
-    TextLabel Label10{"Label10", "Loser's Casualties"};
-    RichTextBox txtBattleResults{"txtBattleResults"};
-    TextLabel Label11{"Label11", "Victor's Casualties"};
-    RichTextBox txtVictorDesc{"txtVictorDesc"};
 
     // State
 
@@ -293,10 +172,9 @@ private:
     bool make_misc_row();
     void place_misc_row(int row);
     int effective_casualty_bonus();
-    void describe(RichTextBox& box, std::string_view account);
+    void describe(RichTextBox& box, std::string_view account, std::string_view heading = {});
     void spread_losses(int Index, int percent);
 
-    std::array<OptionGroup, category_count> option_groups_;
     ModifierList misc_list_; // what follows the rows that were made
     MemoryReserve reserve_;
     Desktop& desktop_;

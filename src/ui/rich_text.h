@@ -16,4 +16,11 @@ inline std::string rich_text_document(std::string_view text)
     return std::string{header}.append(text).append("}");
 }
 
+/// The account of a table's row; a heading stands bold on a line of its own.
+inline std::string rich_text_account(std::string_view heading, std::string_view account)
+{
+    if (heading.empty()) return rich_text_document(account);
+    return rich_text_document(std::string{"\\b1 "}.append(heading).append("\\b0\\par ").append(account));
+}
+
 } // namespace warhost

@@ -1,7 +1,7 @@
 #include "ui/rich_text_reader.h"
 
-#include "army/characters.h"
-#include "files/code_page.h"
+#include "base/characters.h"
+#include "base/code_page.h"
 
 #include <algorithm>
 #include <array>

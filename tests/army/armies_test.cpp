@@ -35,11 +35,11 @@ TEST(Armies, total_every_category_the_ticked_misc_values_and_both_bonuses)
     armies.ArmyA = armies.ArmyB = army;
     armies.CalcArmyTotal();
     EXPECT_EQ(std::tuple(army.LevelBonus, army.TotalMod), std::tuple(5, 4626));
-    for (int const tab : {1, 2, 3}) {
+    for (int const Side : {side_a, side_b}) {
         armies.ArmyA.TotalMod = armies.ArmyB.TotalMod = 0;
-        armies.CalcOtherTotal(tab);
-        EXPECT_EQ(armies.ArmyA.TotalMod, tab == 2 ? 4626 : 0) << tab;
-        EXPECT_EQ(armies.ArmyB.TotalMod, tab == 1 ? 4626 : 0) << tab;
+        armies.CalcOtherTotal(Side);
+        EXPECT_EQ(armies.ArmyA.TotalMod, Side == side_b ? 4626 : 0) << Side;
+        EXPECT_EQ(armies.ArmyB.TotalMod, Side == side_a ? 4626 : 0) << Side;
     }
     // Only the experience bonus makes the sum too large: the other side keeps both its figures.
     armies.ArmyB.OptValue[7] = 2147483647 - 4622;

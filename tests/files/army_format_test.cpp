@@ -1,7 +1,7 @@
 #include "files/army_format.h"
 
+#include "base/code_page.h"
 #include "caught.h"
-#include "files/code_page.h"
 
 #include <gtest/gtest.h>
 #include <string>

@@ -1,6 +1,6 @@
 #include "ui/qt/dialogs/file_chooser.h"
 
-#include "army/failure.h"
+#include "base/failure.h"
 #include "ui/qt/widgets/text.h"
 
 #include <QDialogButtonBox>

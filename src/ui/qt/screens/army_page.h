@@ -2,7 +2,7 @@
 // the right.
 #pragma once
 
-#include "ui/main.h"
+#include "ui/army_controls.h"
 #include "ui/qt/screens/screen_area.h"
 #include "ui/qt/widgets/widget_maker.h"
 
@@ -18,8 +18,9 @@ class ArmyPage : public ScreenArea {
     Q_OBJECT
 
 public:
-    /// content: the part of the screen that is laid out, in pixels. show_help opens the manual at a topic.
-    ArmyPage(Main& form, Scale const& scale, QSize content, std::function<void(int)> const& show_help, QWidget* parent);
+    /// content: the part of the screen that is laid out, in pixels. For the other two see MiscPanel.
+    ArmyPage(ArmyControls& controls, Scale const& scale, QSize content, std::function<bool()> const& add_misc_row,
+             std::function<void(int)> const& show_help, QWidget* parent);
 
     MiscPanel& misc_panel() const { return *misc_panel_; }
 
@@ -32,7 +33,7 @@ private:
     QWidget* category(int index, Frame& frame, int width, TextLabel* note = nullptr);
     QWidget* experience();
 
-    Main& form_;
+    ArmyControls& controls_;
     WidgetMaker make_;
     int option_height_ = 0; // the same in all frames
     MiscPanel* misc_panel_;

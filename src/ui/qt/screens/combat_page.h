@@ -1,7 +1,7 @@
 // The combat screen: the battle roll and the casualties at the left, the description of the battle at the right.
 #pragma once
 
-#include "ui/main.h"
+#include "ui/combat_controls.h"
 #include "ui/qt/screens/screen_area.h"
 #include "ui/qt/widgets/widget_maker.h"
 
@@ -14,7 +14,7 @@ class CombatPage : public ScreenArea {
 
 public:
     /// content: the part of the screen that is laid out, in pixels.
-    CombatPage(Main& form, Scale const& scale, QSize content, QWidget* parent);
+    CombatPage(CombatControls& controls, Scale const& scale, QSize content, QWidget* parent);
 
 private:
     QLayout* totals();
@@ -27,7 +27,7 @@ private:
     QWidget* side(int Index);
     QWidget* description();
 
-    Main& form_;
+    CombatControls& controls_;
     WidgetMaker make_;
 };
 

@@ -41,13 +41,15 @@ RowColours row_colours(QPalette const& palette)
     return {differs ? button : mixture(button, text, 7), light_stripe};
 }
 
-MiscPanel::MiscPanel(Main& form, Scale const& scale, std::function<void(int)> show_help, QWidget* parent)
+MiscPanel::MiscPanel(ArmyControls& controls, Scale const& scale, std::function<bool()> add_row,
+                     std::function<void(int)> show_help, QWidget* parent)
     : CaptionFrame(0, parent),
-      form_(form),
+      controls_(controls),
       scale_(scale),
+      add_row_(std::move(add_row)),
       show_help_(std::move(show_help))
 {
-    bind(form.FrameMisc, *this);
+    bind(controls.FrameMisc, *this);
 }
 
 void MiscPanel::resizeEvent(QResizeEvent* event)
@@ -59,16 +61,16 @@ void MiscPanel::resizeEvent(QResizeEvent* event)
 void MiscPanel::make_rows_in_sight()
 {
     for (int index = static_cast<int>(rows_.size());; ++index) {
-        if (index > form_.chkMisc.highest() && !form_.add_misc_row()) return;
-        if (scale_.from_twips(form_.chkMisc(index).place.Top) >= height()) return;
+        if (index > controls_.chkMisc.highest() && !add_row_()) return;
+        if (scale_.from_twips(controls_.chkMisc(index).place.Top) >= height()) return;
         make_row(index);
     }
 }
 
 void MiscPanel::make_row(int index)
 {
-    CheckBox& box_field = form_.chkMisc(index);
-    ComboBox& value_field = form_.cmbMisc(index);
+    CheckBox& box_field = controls_.chkMisc(index);
+    ComboBox& value_field = controls_.cmbMisc(index);
     QString const caption = beginning_of(box_field.caption());
     Row const row{index, new QCheckBox{this}, new ValueBox{value_field}};
 
@@ -106,7 +108,7 @@ void MiscPanel::colour(Row const& row) const
 {
     auto const [face, stripe] = row_colours(palette());
     QPalette band;
-    band.setColor(QPalette::Window, form_.chkMisc(row.index).striped ? stripe : face);
+    band.setColor(QPalette::Window, controls_.chkMisc(row.index).striped ? stripe : face);
     band.setColor(QPalette::WindowText, palette().color(QPalette::ButtonText));
     row.box->setPalette(band);
 }
@@ -118,7 +120,7 @@ void MiscPanel::fit_caption(Row const& row) const
     option.initFrom(row.box);
     int const text_left = style()->subElementRect(QStyle::SE_CheckBoxContents, &option, row.box).left();
     int const room = row.value->x() - row.box->x() - text_left - scale_.from_base(4);
-    QString const caption = beginning_of(form_.chkMisc(row.index).caption());
+    QString const caption = beginning_of(controls_.chkMisc(row.index).caption());
     QString const shown = row.box->fontMetrics().elidedText(caption, Qt::ElideRight, room);
     row.box->setText(to_caption(shown));
     row.box->setToolTip(shown == caption ? QString{} : to_tooltip(caption));
@@ -139,7 +141,7 @@ void MiscPanel::keyPressEvent(QKeyEvent* event)
     if (event->key() == Qt::Key_F1) {
         for (auto const& row : rows_) {
             if (!row.box->hasFocus() && !row.value->hasFocus()) continue;
-            if (int const topic = form_.chkMisc(row.index).help_topic; topic != 0) show_help_(topic);
+            if (int const topic = controls_.chkMisc(row.index).help_topic; topic != 0) show_help_(topic);
             return;
         }
     }

@@ -1,7 +1,7 @@
 // The panel of misc modifiers and feats.
 #pragma once
 
-#include "ui/main.h"
+#include "ui/army_controls.h"
 #include "ui/qt/widgets/caption_frame.h"
 #include "ui/qt/widgets/scale.h"
 
@@ -20,7 +20,9 @@ class MiscPanel : public CaptionFrame {
     Q_OBJECT
 
 public:
-    MiscPanel(Main& form, Scale const& scale, std::function<void(int)> show_help, QWidget* parent);
+    /// add_row makes the list's next row; false when there is none. show_help opens the manual at a topic.
+    MiscPanel(ArmyControls& controls, Scale const& scale, std::function<bool()> add_row,
+              std::function<void(int)> show_help, QWidget* parent);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -39,8 +41,9 @@ private:
     void colour(Row const& row) const;
     void fit_caption(Row const& row) const;
 
-    Main& form_;
+    ArmyControls& controls_;
     Scale scale_;
+    std::function<bool()> add_row_;
     std::function<void(int)> show_help_;
     std::vector<Row> rows_;
 };

@@ -150,8 +150,12 @@ void Window::make_tab_strip()
 
 void Window::make_screens()
 {
-    army_ = new ArmyPage{form_, scale_, content_size(form_.FrameArmy, scale_),
-                         [this](int topic) { desktop_.show_help(topic); }, client_};
+    army_ = new ArmyPage{form_,
+                         scale_,
+                         content_size(form_.FrameArmy, scale_),
+                         [this] { return form_.add_misc_row(); },
+                         [this](int topic) { desktop_.show_help(topic); },
+                         client_};
     colour_read_only_boxes();
     form_.FrameArmy.show = [this] { place_screen(form_.FrameArmy, *army_); };
     form_.FrameCombat.show = [this] {

@@ -1,7 +1,7 @@
 // Integer arithmetic whose overflow is found before it happens.
 #pragma once
 
-#include "army/failure.h"
+#include "base/failure.h"
 
 #include <cstdint>
 #include <limits>

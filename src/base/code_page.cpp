@@ -1,4 +1,4 @@
-#include "files/code_page.h"
+#include "base/code_page.h"
 
 #include <algorithm>
 #include <array>
