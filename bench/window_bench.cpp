@@ -35,7 +35,7 @@ class BenchDesktop final : public QtDesktop {
 public:
     explicit BenchDesktop(std::string folder) : folder_(std::move(folder)) {}
     std::string program_directory() override { return folder_; }
-    Answer message_box(MessageBox const& box) override { return box.default_answer; }
+    Answer message_box(Message const& box) override { return box.default_answer; }
 
 private:
     std::string folder_;

@@ -13,6 +13,9 @@
 #include <iomanip>
 #include <iostream>
 #include <optional>
+#include <string>
+#include <string_view>
+#include <system_error>
 
 namespace {
 
@@ -32,7 +35,7 @@ public:
     /// The answer to the next file dialog.
     std::string path;
 
-    Answer message_box(MessageBox const& box) override
+    Answer message_box(Message const& box) override
     {
         std::string const text = with_plain_line_ends(box.text);
         if (box.buttons == Buttons::abort_retry_ignore) {
@@ -47,7 +50,7 @@ public:
         (box.icon == Icon::exclamation ? std::cerr : std::cout) << text << '\n';
         return Answer::ok;
     }
-    void show_report(MessageBox const& report, Tally const& /*tally*/, Odds const& odds) override
+    void show_report(Message const& report, Tally const& /*tally*/, Odds const& odds) override
     {
         message_box(report);
         std::cout << long_run_text(odds, number_format()) << '\n';

@@ -11,6 +11,8 @@
 #include <QPalette>
 
 #include <iostream>
+#include <optional>
+#include <string>
 
 namespace {
 
@@ -25,13 +27,13 @@ public:
 
     std::optional<std::string> file_dialog(FileDialog const& /*dialog*/) override { return army; }
     std::string input_box(InputBox const& /*box*/) override { return "100000"; }
-    void show_report(MessageBox const& report, Tally const& tally, Odds const& odds) override
+    void show_report(Message const& report, Tally const& tally, Odds const& odds) override
     {
         ReportBox box{report, tally, odds, number_format(), nullptr};
         take(box, "simulation_report");
     }
     NumberFormat number_format() override { return {}; }
-    Answer message_box(MessageBox const& box) override
+    Answer message_box(Message const& box) override
     {
         std::cerr << box.text << '\n';
         return box.default_answer;

@@ -5,7 +5,10 @@
 #include "ui/test_desktop.h"
 
 #include <atomic>
+#include <cstddef>
 #include <sanitizer/allocator_interface.h>
+#include <string>
+#include <string_view>
 
 namespace {
 

@@ -4,6 +4,9 @@
 #include "require.h"
 #include "ui/test_desktop.h"
 
+#include <cstddef>
+#include <string>
+
 extern "C" int LLVMFuzzerTestOneInput(unsigned char const* data, std::size_t size)
 {
     using namespace warhost;

@@ -5,6 +5,7 @@
 #include "ui/rich_text_reader.h"
 
 #include <algorithm>
+#include <cstddef>
 
 extern "C" int LLVMFuzzerTestOneInput(unsigned char const* data, std::size_t size)
 {

@@ -3,6 +3,9 @@
 #include "army/level_bonus.h"
 #include "base/checked.h"
 
+#include <cstddef>
+#include <cstdint>
+
 namespace warhost {
 
 namespace {

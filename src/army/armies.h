@@ -3,7 +3,6 @@
 
 #include "army/army.h"
 
-#include <cstdint>
 #include <string_view>
 #include <utility>
 

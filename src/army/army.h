@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 
@@ -26,24 +27,24 @@ struct Army {
     std::string Name;
     std::array<std::string, record_units> UnitType;
     std::array<std::int32_t, record_units> UnitNum{}; // soldiers; rows 0 to 7 are on the screen
-    Reserved<372> Reserved4{};
+    Reserved<372> ReservedAfterUnits{};
     std::int32_t TotalNo = 0;                             // soldiers of rows 0 to 7
     std::array<std::int16_t, record_choices> Opt{};       // -1 selected, 0 not selected
     std::array<std::int32_t, record_choices> OptValue{};  // result of modifier category i
     std::array<std::int16_t, record_choices> MiscCheck{}; // 1 checked, 0 unchecked; entry 0 is never used
     std::array<std::int32_t, record_choices> MiscValue{}; // value of misc row i; entry 0 is never used
-    Reserved<4> Reserved10{};
+    Reserved<4> ReservedAfterMisc{};
     std::int16_t RatioBonus = 0; // 0 to 20
     std::int32_t TotalMod = 0;
-    Reserved<6> Reserved13{};
+    Reserved<6> ReservedAfterTotal{};
     std::array<ReservedList, 3> ReservedNumberLists;
-    Reserved<4> Reserved17{};
+    Reserved<4> ReservedBetweenLists{};
     std::array<ReservedList, 2> ReservedTextLists;
     std::int16_t LevelBonus = 0; // 0 to 20
-    Reserved<14> Reserved21{};
+    Reserved<14> ReservedAfterLevelBonus{};
     float Level = 0;      // this army's average troop level
     float OtherLevel = 0; // the other army's, as last passed on
-    Reserved<16> Reserved24{};
+    Reserved<16> ReservedAfterLevels{};
     std::array<std::string, 4> ReservedTexts;
 
     bool operator==(Army const&) const = default;

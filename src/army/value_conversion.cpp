@@ -1,13 +1,19 @@
 #include "army/value_conversion.h"
 
 #include "base/characters.h"
+#include "base/limits.h"
 
 #include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstddef>
+#include <cstdint>
 #include <limits>
 #include <optional>
+#include <string>
+#include <string_view>
+#include <system_error>
 
 namespace warhost {
 
@@ -154,7 +160,7 @@ double leading_number(std::string_view text)
 
 std::int16_t TextToInt(std::string_view text)
 {
-    return static_cast<std::int16_t>(half_to_even(leading_number(text), 32000));
+    return static_cast<std::int16_t>(half_to_even(leading_number(text), field_limit));
 }
 
 std::int32_t TextToLong(std::string_view text)

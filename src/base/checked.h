@@ -9,7 +9,7 @@
 namespace warhost {
 
 /// value as a signed 32-bit integer. Throws the overflow Failure when it does not fit.
-inline std::int32_t checked_int32(std::int64_t value)
+[[nodiscard]] inline std::int32_t checked_int32(std::int64_t value)
 {
     using Limits = std::numeric_limits<std::int32_t>;
     if (value < Limits::min() || value > Limits::max()) throw failure_of(Fault::overflow);
@@ -17,9 +17,15 @@ inline std::int32_t checked_int32(std::int64_t value)
 }
 
 /// a + b. Throws the overflow Failure when the sum is no signed 32-bit integer.
-inline std::int32_t checked_sum(std::int32_t a, std::int32_t b) { return checked_int32(std::int64_t{a} + b); }
+[[nodiscard]] inline std::int32_t checked_sum(std::int32_t a, std::int32_t b)
+{
+    return checked_int32(std::int64_t{a} + b);
+}
 
 /// a - b. Throws the overflow Failure when the difference is no signed 32-bit integer.
-inline std::int32_t checked_difference(std::int32_t a, std::int32_t b) { return checked_int32(std::int64_t{a} - b); }
+[[nodiscard]] inline std::int32_t checked_difference(std::int32_t a, std::int32_t b)
+{
+    return checked_int32(std::int64_t{a} - b);
+}
 
 } // namespace warhost

@@ -1,6 +1,7 @@
 // The battle laid out on integers, on which stand the simulation (sampled) and the odds (exact).
 #pragma once
 
+#include "base/limits.h"
 #include "battle/battle_state.h"
 #include "battle/dice.h"
 #include "battle/outcome_table.h"
@@ -102,16 +103,14 @@ struct Meeting {
 
 /// Both sides' results by die, as read from the combat screen.
 struct Results {
-    static constexpr int read_limit = 32000;
-
     std::array<int, die_sides> a{};
     std::array<int, die_sides> b{};
 
-    /// Total modifiers -32000 to 32000.
+    /// Total modifiers within field_limit.
     Results(int modifier_a, int modifier_b)
     {
         auto const as_read = [](int modifier, std::size_t die) {
-            return std::clamp(modifier + static_cast<int>(die) + 1, -read_limit, read_limit);
+            return std::clamp(modifier + static_cast<int>(die) + 1, -field_limit, field_limit);
         };
         for (std::size_t die = 0; die < die_sides; ++die) {
             a.at(die) = as_read(modifier_a, die);

@@ -2,6 +2,9 @@
 
 #include "battle/battle_tables.h"
 
+#include <array>
+#include <cstddef>
+
 namespace warhost {
 
 namespace {

@@ -6,9 +6,13 @@
 #include <algorithm>
 #include <bit>
 #include <concepts>
+#include <cstddef>
 #include <cstdint>
 #include <limits>
+#include <string>
+#include <string_view>
 #include <type_traits>
+#include <utility>
 
 namespace warhost {
 
@@ -155,24 +159,24 @@ template <class Stream, class Record> void walk(Stream& io, Record& army)
         io.text("unit type #" + std::to_string(row + 1), army.UnitType[row]);
     }
     for (auto& count : army.UnitNum) io.number("the numbers of soldiers", count);
-    io.reserved("the first reserved bytes", army.Reserved4);
+    io.reserved("the first reserved bytes", army.ReservedAfterUnits);
     io.number("the total of soldiers", army.TotalNo);
     for (auto& state : army.Opt) io.number("the options", state);
     for (auto& value : army.OptValue) io.number("the category results", value);
     for (auto& state : army.MiscCheck) io.number("the misc ticks", state);
     for (auto& value : army.MiscValue) io.number("the misc values", value);
-    io.reserved("the reserved bytes after the misc values", army.Reserved10);
+    io.reserved("the reserved bytes after the misc values", army.ReservedAfterMisc);
     io.number("the troop ratio bonus", army.RatioBonus);
     io.number("the total modifier", army.TotalMod);
-    io.reserved("the reserved bytes after the total modifier", army.Reserved13);
+    io.reserved("the reserved bytes after the total modifier", army.ReservedAfterTotal);
     for (auto& list : army.ReservedNumberLists) io.list("a reserved list of numbers", Element::number, list);
-    io.reserved("the reserved bytes between the lists", army.Reserved17);
+    io.reserved("the reserved bytes between the lists", army.ReservedBetweenLists);
     for (auto& list : army.ReservedTextLists) io.list("a reserved list of texts", Element::text, list);
     io.number("the experience bonus", army.LevelBonus);
-    io.reserved("the reserved bytes after the experience bonus", army.Reserved21);
+    io.reserved("the reserved bytes after the experience bonus", army.ReservedAfterLevelBonus);
     io.number("the troop level", army.Level);
     io.number("the other army's troop level", army.OtherLevel);
-    io.reserved("the reserved bytes after the levels", army.Reserved24);
+    io.reserved("the reserved bytes after the levels", army.ReservedAfterLevels);
     for (auto& text : army.ReservedTexts) io.raw_text("the reserved texts", text);
 }
 

@@ -3,6 +3,7 @@
 #include "base/failure.h"
 
 #include <array>
+#include <cerrno>
 #include <chrono>
 #include <fcntl.h>
 #include <system_error>

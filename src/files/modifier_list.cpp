@@ -3,6 +3,8 @@
 #include "army/value_conversion.h"
 #include "base/code_page.h"
 
+#include <optional>
+#include <string>
 #include <string_view>
 #include <utility>
 

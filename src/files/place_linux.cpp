@@ -2,7 +2,9 @@
 
 #include "base/failure.h"
 
+#include <cerrno>
 #include <climits>
+#include <cstddef>
 #include <fcntl.h>
 #include <string>
 #include <unistd.h>

@@ -3,7 +3,10 @@
 #include "base/failure.h"
 #include "files/descriptor_linux.h"
 
+#include <cerrno>
+#include <cstddef>
 #include <fcntl.h>
+#include <string>
 #include <unistd.h>
 
 namespace warhost {

@@ -1,6 +1,8 @@
 #include "files/system_fault.h"
 
 #include <array>
+#include <string>
+#include <system_error>
 
 namespace warhost {
 

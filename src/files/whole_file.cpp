@@ -4,6 +4,9 @@
 #include "files/system_file.h"
 
 #include <filesystem>
+#include <string>
+#include <string_view>
+#include <system_error>
 
 namespace warhost {
 

@@ -8,14 +8,14 @@
 namespace warhost {
 
 /// Whether path (UTF-8) names something that exists and is no folder. Never fails: what cannot be asked is false.
-bool FileExists(std::string const& path);
+[[nodiscard]] bool FileExists(std::string const& path);
 
 /// No army and no list comes near this many bytes.
 inline constexpr std::size_t most_bytes_read = std::size_t{64} << 20U;
 
 /// The bytes of an ordinary file, opened for reading only. Throws a Failure that names the path and the cause; a file
 /// of more than most_bytes_read is refused.
-std::string read_file(std::string const& path);
+[[nodiscard]] std::string read_file(std::string const& path);
 
 /// Puts bytes in place of the file at path, or makes it: written to a temporary file in the same folder, flushed to
 /// the disk, renamed over path. A symbolic link keeps pointing to its target, which is replaced; an existing file's

@@ -1,5 +1,7 @@
 #include "ui/army_controls.h"
 
+#include <cstddef>
+
 namespace warhost {
 
 ArmyControls::ArmyControls()

@@ -3,7 +3,10 @@
 #include "ui/main.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <optional>
+#include <string>
+#include <string_view>
 
 namespace warhost {
 

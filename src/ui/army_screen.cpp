@@ -3,6 +3,7 @@
 #include "ui/main.h"
 
 #include <algorithm>
+#include <cstdint>
 
 namespace warhost {
 

@@ -7,6 +7,7 @@
 #include "ui/rich_text.h"
 
 #include <array>
+#include <cstdint>
 #include <cstdlib>
 #include <utility>
 

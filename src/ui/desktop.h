@@ -17,7 +17,7 @@ enum class Icon { none, exclamation, critical };
 enum class Answer { ok, yes, no, abort, retry, ignore };
 
 /// A modal message. default_answer is the button that Enter presses.
-struct MessageBox {
+struct Message {
     std::string text;
     std::string title = program_title;
     Buttons buttons = Buttons::ok;
@@ -60,10 +60,10 @@ public:
     Desktop& operator=(Desktop const&) = delete;
     virtual ~Desktop() = default;
 
-    virtual Answer message_box(MessageBox const& box) = 0;
+    virtual Answer message_box(Message const& box) = 0;
 
     /// Shows the report of a simulation; its box may show the tally and the exact odds beside the text.
-    virtual void show_report(MessageBox const& report, Tally const& /*tally*/, Odds const& /*odds*/)
+    virtual void show_report(Message const& report, Tally const& /*tally*/, Odds const& /*odds*/)
     {
         message_box(report);
     }

@@ -1,6 +1,8 @@
 #include "files/whole_file.h"
 #include "ui/main.h"
 
+#include <string>
+#include <string_view>
 #include <utility>
 
 namespace warhost {

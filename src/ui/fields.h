@@ -14,7 +14,6 @@
 #include <map>
 #include <string>
 #include <utility>
-#include <vector>
 
 namespace warhost {
 

@@ -5,8 +5,11 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 #include <optional>
+#include <string_view>
 #include <utility>
+#include <vector>
 
 namespace warhost {
 

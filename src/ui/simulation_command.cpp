@@ -4,6 +4,7 @@
 #include "ui/simulation_report.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <optional>
 #include <string>
 

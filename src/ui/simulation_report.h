@@ -5,6 +5,7 @@
 #include "battle/odds.h"
 #include "battle/simulation.h"
 
+#include <cstdint>
 #include <string>
 
 namespace warhost {

@@ -60,7 +60,7 @@ TEST_F(ArmyFiles, are_judged_by_the_screen_and_carried_where_it_shows_nothing)
     Army army = elves();
     // clang-format off
     army.UnitType[0] = "Archers"; army.UnitType[20] = "far"; army.UnitNum[20] = 9; army.Level = 3;
-    army.OtherLevel = 1.5F; army.Reserved4.fill('r'); army.ReservedTexts[3] = "kept\x81";
+    army.OtherLevel = 1.5F; army.ReservedAfterUnits.fill('r'); army.ReservedTexts[3] = "kept\x81";
     Army expected = army;
     expected.Name = "Wood elves"; expected.TotalNo = 50; expected.RatioBonus = 20; expected.LevelBonus = 1;
     army.Opt[0] = -1; // of several in a frame the last counts

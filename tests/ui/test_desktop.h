@@ -40,7 +40,7 @@ public:
     double twips = 15;
     std::string directory;
 
-    Answer message_box(MessageBox const& box) override
+    Answer message_box(Message const& box) override
     {
         constexpr std::array buttons{"OK", "Yes No", "Abort Retry Ignore"};
         constexpr std::array icons{"no icon", "exclamation", "critical"};
@@ -78,7 +78,7 @@ public:
     [[noreturn]] void end_program() override { throw ProgramEnded{}; }
     NumberFormat number_format() override { return format; }
     std::string program_directory() override { return directory; }
-    void show_report(MessageBox const& report, Tally const& tally, Odds const& odds) override
+    void show_report(Message const& report, Tally const& tally, Odds const& odds) override
     {
         beside_report = {long_run_text(odds, format), sample_text(tally, format)};
         message_box(report);

@@ -106,7 +106,7 @@ struct FileChoice : testing::Test {
             folder.write(name, "");
         std::filesystem::create_directory(folder.path("sub.Army"));
     }
-    Answer ask(MessageBox const& box)
+    Answer ask(Message const& box)
     {
         asked.push_back(box.text);
         EXPECT_EQ(box.default_answer, box.buttons == Buttons::yes_no ? Answer::no : Answer::ok);
@@ -117,7 +117,7 @@ struct FileChoice : testing::Test {
     }
     FileChooser chooser(FileDialog const& request)
     {
-        return {request, [this](MessageBox const& box) { return ask(box); }};
+        return {request, [this](Message const& box) { return ask(box); }};
     }
 };
 

@@ -33,7 +33,7 @@ public:
     std::function<void()> while_asked; // runs while a message is open
     int topic = 0;
 
-    Answer message_box(MessageBox const& box) override
+    Answer message_box(Message const& box) override
     {
         titles.push_back(box.title);
         if (while_asked) while_asked();
@@ -42,7 +42,7 @@ public:
         answers.pop_front();
         return answer;
     }
-    void show_report(MessageBox const& report, Tally const&, Odds const&) override { message_box(report); }
+    void show_report(Message const& report, Tally const&, Odds const&) override { message_box(report); }
     std::string input_box(InputBox const& box) override { return box.default_text; }
     std::optional<std::string> file_dialog(FileDialog const&) override { return path; }
     std::string program_directory() override { return directory_; }

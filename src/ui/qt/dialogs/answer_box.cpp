@@ -86,7 +86,7 @@ QPixmap pixmap_of(Icon icon, QStyle const& style)
 
 } // namespace
 
-AnswerBox::AnswerBox(MessageBox const& box, QWidget* parent) : QDialog(parent), answer_(answer_of_escape(box.buttons))
+AnswerBox::AnswerBox(Message const& box, QWidget* parent) : QDialog(parent), answer_(answer_of_escape(box.buttons))
 {
     setWindowTitle(to_qt(box.title));
     QString const text = to_qt(box.text).replace("\r\n", "\n");

@@ -12,7 +12,7 @@ namespace warhost {
 /// and copied.
 class AnswerBox : public QDialog {
 public:
-    AnswerBox(MessageBox const& box, QWidget* parent);
+    AnswerBox(Message const& box, QWidget* parent);
 
     /// Shows the box and waits. Escape and the close button do no harm: they never mean Yes, and never Abort.
     Answer ask();

@@ -17,7 +17,7 @@ namespace warhost {
 /// open when a choice is refused, and the desktop's, which has closed by then and is shown again.
 class FileChooser {
 public:
-    using Ask = std::function<Answer(MessageBox const&)>;
+    using Ask = std::function<Answer(Message const&)>;
 
     /// A choice of the user's. Settled: judged already, while the dialog was open.
     struct Choice {

@@ -24,13 +24,13 @@
 
 namespace warhost {
 
-Answer QtDesktop::message_box(MessageBox const& box)
+Answer QtDesktop::message_box(Message const& box)
 {
     QWidget* const dialog = QApplication::activeModalWidget();
     return AnswerBox{box, dialog != nullptr ? dialog : window_}.ask();
 }
 
-void QtDesktop::show_report(MessageBox const& report, Tally const& tally, Odds const& odds)
+void QtDesktop::show_report(Message const& report, Tally const& tally, Odds const& odds)
 {
     if (!is_closed_) ReportBox{report, tally, odds, number_format(), window_}.exec();
 }
@@ -88,7 +88,7 @@ QString QtDesktop::folder_for(FileDialogKind kind)
 
 std::optional<std::string> QtDesktop::file_dialog(FileDialog const& dialog)
 {
-    FileChooser const chooser{dialog, [this](MessageBox const& box) { return message_box(box); }};
+    FileChooser const chooser{dialog, [this](Message const& box) { return message_box(box); }};
     auto const path = chooser.choose(
         [&](QString const& start) { return chooser.show_dialog(folder_for(dialog.kind), start, window_); });
     if (!path) return std::nullopt;

@@ -25,8 +25,8 @@ public:
     void window_was_closed() { is_closed_ = true; }
     bool simulates() const { return progress_.has_value(); }
 
-    Answer message_box(MessageBox const& box) override;
-    void show_report(MessageBox const& report, Tally const& tally, Odds const& odds) override;
+    Answer message_box(Message const& box) override;
+    void show_report(Message const& report, Tally const& tally, Odds const& odds) override;
     void show_progress(std::int32_t fought, std::int32_t battles, Tally const& so_far) override;
     void wait_for(std::function<void()> const& work) override;
     std::string input_box(InputBox const& box) override;

@@ -25,7 +25,7 @@ QLabel* selectable_text(std::string const& text, char const* name)
 
 } // namespace
 
-ReportBox::ReportBox(MessageBox const& report, Tally const& tally, Odds const& odds, NumberFormat const& format,
+ReportBox::ReportBox(Message const& report, Tally const& tally, Odds const& odds, NumberFormat const& format,
                      QWidget* parent)
     : QDialog(parent)
 {

@@ -15,8 +15,7 @@ class ReportBox : public QDialog {
     Q_OBJECT
 
 public:
-    ReportBox(MessageBox const& report, Tally const& tally, Odds const& odds, NumberFormat const& format,
-              QWidget* parent);
+    ReportBox(Message const& report, Tally const& tally, Odds const& odds, NumberFormat const& format, QWidget* parent);
 };
 
 } // namespace warhost
