@@ -35,7 +35,8 @@ TEST(OutcomeTable, steps_exactly_at_each_margin)
     constexpr int bonuses[][2] = {{0, 0},  {4, 0},  {5, 1},  {9, 1},  {10, 2}, {14, 2},
                                   {15, 3}, {19, 3}, {20, 4}, {24, 4}, {25, 5}, {64000, 5}};
     for (auto const& [first, last, percent] : rows) {
-        EXPECT_TRUE(outcome_of(first) == outcome_of(last) && outcome_of(last) != outcome_of(last + 1)) << first;
+        EXPECT_EQ(outcome_of(first), outcome_of(last)) << first;
+        EXPECT_NE(outcome_of(last), outcome_of(last + 1)) << first;
         EXPECT_EQ(outcome_of(first)->percent, percent) << first;
     }
     EXPECT_EQ(outcome_of(10001), nullptr);

@@ -1,5 +1,6 @@
 #include "files/army_format.h"
 
+#include "army/same_army.h"
 #include "base/code_page.h"
 #include "caught.h"
 
@@ -57,7 +58,7 @@ TEST(ArmyFormat, puts_every_field_at_its_offset)
     army.OtherLevel = 2.5F; at(1826, "\0\0\x20\x40"s);
     // clang-format on
     EXPECT_EQ(encode_army(army), expected);
-    EXPECT_EQ(decode_army(expected), army);
+    EXPECT_TRUE(same(decode_army(expected), army));
 }
 
 TEST(ArmyFormat, carries_everything_through_and_ignores_what_follows_the_record)

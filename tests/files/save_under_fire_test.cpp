@@ -182,7 +182,8 @@ TEST(SaveUnderFire, leaves_the_old_army_or_the_new_one_and_nothing_else)
                 ending = under_fire(Command::save, folder.path("x.Army"), new_army, blow);
                 auto const found = folder.read("x.Army");
                 bool const is_new = found == new_army, is_old = found == (replaces ? old_army : "");
-                EXPECT_FALSE(ending == wrong || (ending == refused && blow.blow == interrupted)) << ending;
+                EXPECT_NE(ending, wrong);
+                EXPECT_FALSE(ending == refused && blow.blow == interrupted);
                 EXPECT_TRUE(ending == refused ? is_old : is_new || (is_old && ending == killed));
                 // What a save left that was killed, or whose device was gone, is gone after the next one.
                 bool const saves_again = ending == killed || blow.blow == device_gone;

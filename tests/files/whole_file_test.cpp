@@ -102,7 +102,8 @@ TEST_F(WholeFile, is_replaced_under_any_name_and_keeps_its_permissions)
     EXPECT_TRUE(::SetFileSecurityA(file.c_str(), DACL_SECURITY_INFORMATION, &everyone));
     auto const given = rights(file);
     replace(file);
-    EXPECT_TRUE(rights(file) == given && given != usual);
+    EXPECT_EQ(rights(file), given);
+    EXPECT_NE(given, usual);
     for (auto const& bytes : {std::string(2000000, 'x'), std::string{"two\r\n"}}) {
         replace_file(foreign, bytes);
         EXPECT_EQ(read_file(foreign), bytes);
@@ -179,7 +180,8 @@ TEST_F(WholeFile, replaces_a_file_and_keeps_links_and_permissions)
     fs::create_symlink("../old", once);
     fs::create_symlink("once", twice);
     replace_file(twice, "two");
-    EXPECT_TRUE(fs::is_symlink(twice) && fs::is_symlink(once));
+    EXPECT_TRUE(fs::is_symlink(twice));
+    EXPECT_TRUE(fs::is_symlink(once));
     EXPECT_EQ(read("old"), "two");
     EXPECT_EQ(fs::status(path("old")).permissions(), fs::perms{0640});
     fs::create_symlink(path("born"), dangling);

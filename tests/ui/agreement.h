@@ -1,6 +1,7 @@
 // What must be true after anything that a user does.
 #pragma once
 
+#include "army/same_army.h"
 #include "ui/main.h"
 
 #include <gtest/gtest.h>
@@ -18,7 +19,7 @@ inline void check_agreement(Main& form)
     ASSERT_EQ(form.FrameArmy.visible(), tab != tab_combat);
     if (tab == tab_combat) return;
     Army const& army = form.CurArmy;
-    ASSERT_TRUE(army == form.of_side(tab));
+    ASSERT_TRUE(same(army, form.of_side(tab)));
     ASSERT_EQ(form.txtArmyName.text(), army.Name);
     for (int row = 0; row < unit_rows; ++row) {
         ASSERT_EQ(TextToLong(form.txtUnitNum(row).text()), army.UnitNum[row]);

@@ -1,3 +1,4 @@
+#include "army/same_army.h"
 #include "caught.h"
 #include "files/army_format.h"
 #include "ui/test_desktop.h"
@@ -51,7 +52,8 @@ TEST_F(ArmyFiles, are_asked_for_on_the_army_tabs)
     form.TabStrip.choose(3);
     for (auto const* button : {&form.cmdLoadArmy, &form.cmdSaveArmy}) button->press();
     std::string const box = "Warhost: Please click on either the Side A or Side B tab before using this menu.";
-    EXPECT_TRUE(desktop.boxes == std::vector(2, box + " [OK, exclamation, OK]") && desktop.requests.empty());
+    EXPECT_EQ(desktop.boxes, std::vector(2, box + " [OK, exclamation, OK]"));
+    EXPECT_TRUE(desktop.requests.empty());
     EXPECT_EQ(folder.names(), std::set<std::string>{"modif.txt"});
 }
 
@@ -75,20 +77,23 @@ TEST_F(ArmyFiles, are_judged_by_the_screen_and_carried_where_it_shows_nothing)
     form.TabStrip.choose(2);
     load(encode_army(army));
     EXPECT_EQ(texts(form.cmbOpt(0), form.cmbOpt(6), form.cmbLevel, form.lblOtherLevel), "+4/+3/3/1.5");
-    EXPECT_TRUE(form.opt(3).selected() && form.cmbOpt(0).item(2) == "+4");
-    EXPECT_TRUE(form.chkMisc(1).bold() && form.chkMisc(2).state() == 0);
+    EXPECT_TRUE(form.opt(3).selected());
+    EXPECT_EQ(form.cmbOpt(0).item(2), "+4");
+    EXPECT_TRUE(form.chkMisc(1).bold());
+    EXPECT_EQ(form.chkMisc(2).state(), 0);
     EXPECT_EQ(texts(form.txtAName(8), form.txtANum(8), form.txtAName(0), form.txtANum(0)), "Archers/50//0");
     EXPECT_EQ(texts(form.txtTotalMod(1), form.txtTotal, form.txtTotalNo), "30/30/50");
     EXPECT_EQ(form.ArmyA.OtherLevel, 3);
     form.txtArmyName.set_text("Wood elves");
     form.cmdSaveArmy.press();
-    EXPECT_EQ(decode_army(folder.read("x.Army")), expected);
-    EXPECT_EQ(form.ArmyB, expected);
+    EXPECT_TRUE(same(decode_army(folder.read("x.Army")), expected));
+    EXPECT_TRUE(same(form.ArmyB, expected));
     for (float const level : {NAN, INFINITY, -INFINITY}) {
         army.Level = level;
         load(encode_army(army));
         EXPECT_EQ(texts(form.cmbLevel, form.lblLevelBonus, form.txtTotal), general_text(level, {}) + "/+0/29");
-        EXPECT_TRUE(form.ArmyB.Level == 0 && desktop.boxes.empty());
+        EXPECT_EQ(form.ArmyB.Level, 0);
+        EXPECT_TRUE(desktop.boxes.empty());
     }
 }
 
@@ -117,7 +122,10 @@ TEST_F(ArmyFiles, that_fail_leave_everything_as_it_was)
         desktop.chosen = folder.path(name);
         button.press();
         EXPECT_EQ(desktop.boxes.at(0).substr(0, box.size()), box);
-        EXPECT_TRUE(desktop.boxes.size() == 1 && form.ArmyA == a && form.ArmyB == b && form.CurArmy == a);
+        EXPECT_EQ(desktop.boxes.size(), 1U);
+        EXPECT_TRUE(same(form.ArmyA, a));
+        EXPECT_TRUE(same(form.ArmyB, b));
+        EXPECT_TRUE(same(form.CurArmy, a));
         EXPECT_EQ(texts(form.txtUnitNum(0), form.txtANum(0), form.cmbOpt(0)), "12/12/+4");
     }
     desktop.answer = Answer::abort;

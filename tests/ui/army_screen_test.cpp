@@ -1,3 +1,4 @@
+#include "army/same_army.h"
 #include "ui/test_desktop.h"
 
 namespace warhost {
@@ -26,14 +27,17 @@ TEST_F(ArmyScreen, starts_with_two_armies_alike_and_side_a_shown)
     Army expected;
     expected.Level = 1;
     for (auto const& [row, value] : {std::pair{1, 1}, {2, 3}, {3, -2}}) expected.MiscValue.at(row) = value;
-    EXPECT_TRUE(form.ArmyA == expected && form.CurArmy == expected);
+    EXPECT_TRUE(same(form.ArmyA, expected));
+    EXPECT_TRUE(same(form.CurArmy, expected));
     expected.OtherLevel = 1;
-    EXPECT_EQ(form.ArmyB, expected);
+    EXPECT_TRUE(same(form.ArmyB, expected));
     EXPECT_EQ(totals(form), "0/0 1.0:1 +0, vs 0 +0, A 0 B 0");
     EXPECT_EQ(texts(form.cmbLevel, form.cmbOpt(0), form.txtUnitNum(7), form.txtANum(15)), "1/+0/0/0");
     EXPECT_EQ(form.cmbLevel.item(0) + " " + form.cmbLevel.item(form.cmbLevel.list_size() - 1), "1 20");
-    EXPECT_TRUE(form.FrameArmy.visible() && !form.FrameCombat.visible());
-    EXPECT_TRUE(form.battle == BattleState{} && desktop.boxes.empty());
+    EXPECT_TRUE(form.FrameArmy.visible());
+    EXPECT_FALSE(form.FrameCombat.visible());
+    EXPECT_EQ(form.battle, BattleState{});
+    EXPECT_TRUE(desktop.boxes.empty());
 }
 
 TEST_F(ArmyScreen, recomputes_both_armies_after_every_change)
@@ -71,7 +75,8 @@ TEST_F(ArmyScreen, recomputes_both_armies_after_every_change)
         act();
         EXPECT_EQ(totals(form), expected) << step;
     }
-    EXPECT_TRUE(form.txtANum(1).text() == "2e9" && desktop.boxes.empty()); // failed sums are passed over
+    EXPECT_EQ(form.txtANum(1).text(), "2e9");
+    EXPECT_TRUE(desktop.boxes.empty()); // failed sums are passed over
 }
 
 TEST_F(ArmyScreen, options_offer_their_range_and_a_chosen_value_comes_back)
@@ -97,7 +102,8 @@ TEST_F(ArmyScreen, options_offer_their_range_and_a_chosen_value_comes_back)
     form.opt(1).set_selected(true);
     form.TabStrip.choose(1);
     EXPECT_EQ(offered(form.cmbOpt(0)), "+4 of +2 +3 +4");
-    EXPECT_TRUE(form.opt(3).selected() && !form.opt(1).selected());
+    EXPECT_TRUE(form.opt(3).selected());
+    EXPECT_FALSE(form.opt(1).selected());
 }
 
 TEST_F(ArmyScreen, keeps_the_combat_rows_of_the_side_shown_in_step)
@@ -114,12 +120,14 @@ TEST_F(ArmyScreen, keeps_the_combat_rows_of_the_side_shown_in_step)
     EXPECT_EQ(texts(form.txtAName(9), form.txtANum(9), form.txtAName(1), form.txtANum(1)),
               "Wolves/9000000000/Riders/12 men");
     form.TabStrip.choose(3);
-    EXPECT_TRUE(!form.FrameArmy.visible() && form.FrameCombat.visible());
+    EXPECT_FALSE(form.FrameArmy.visible());
+    EXPECT_TRUE(form.FrameCombat.visible());
     form.CurArmy.Name = "nobody's";
     form.cmbLevel.set_text("9"); // neither side is being edited: only the level is passed on, to Side A
     EXPECT_EQ(std::pair(form.ArmyA.OtherLevel, form.ArmyB.OtherLevel), std::pair(9.0F, 1.0F));
     form.TabStrip.choose(1);
-    EXPECT_TRUE(form.FrameArmy.visible() && !form.FrameCombat.visible());
+    EXPECT_TRUE(form.FrameArmy.visible());
+    EXPECT_FALSE(form.FrameCombat.visible());
     EXPECT_EQ(texts(form.txtArmyName, form.txtUnitType(1), form.txtUnitNum(1)), "Orcs/Riders/12");
     EXPECT_EQ(form.ArmyB.Name, "");
 }
@@ -165,20 +173,26 @@ TEST(MiscPanel, makes_a_row_of_every_entry)
         ComboBox const& value = form.cmbMisc(row);
         EXPECT_EQ(box.caption() + ": " + offered(value), shown);
         EXPECT_EQ(std::tuple(box.help_topic, value.help_topic, box.striped), std::tuple(topic, topic, grey));
-        EXPECT_TRUE(box.visible && value.visible && box.state() == 0);
+        EXPECT_TRUE(box.visible);
+        EXPECT_TRUE(value.visible);
+        EXPECT_EQ(box.state(), 0);
         for (auto const& [at, left, width] : {std::tuple{box.place, 120, 5655}, {value.place, 5040, 735}})
             EXPECT_EQ(std::tuple(at.Left, at.Top, at.Width, at.Height), std::tuple(left, top, width, 315));
     }
-    EXPECT_FALSE(form.chkMisc(0).visible || form.cmbMisc(0).visible);
+    EXPECT_FALSE(form.chkMisc(0).visible);
+    EXPECT_FALSE(form.cmbMisc(0).visible);
     form.chkMisc(2).set_state(1);
-    EXPECT_TRUE(form.chkMisc(2).bold() && form.txtTotal.text() == "3");
+    EXPECT_TRUE(form.chkMisc(2).bold());
+    EXPECT_EQ(form.txtTotal.text(), "3");
     for (int const tab : {2, 1}) {
         form.TabStrip.choose(tab);
-        EXPECT_TRUE(form.chkMisc(2).bold() == (tab == 1) && form.chkMisc(2).state() == 2 - tab);
+        EXPECT_EQ(form.chkMisc(2).bold(), tab == 1);
+        EXPECT_EQ(form.chkMisc(2).state(), 2 - tab);
     }
     form.cmbMisc.create(4); // unequal numbers: no row counts
     form.CalcTotal();
-    EXPECT_TRUE(form.txtTotal.text() == "0" && form.ArmyA.MiscValue[3] == 0);
+    EXPECT_EQ(form.txtTotal.text(), "0");
+    EXPECT_EQ(form.ArmyA.MiscValue[3], 0);
 }
 
 TEST(MiscPanel, counts_a_hundred_rows_and_shows_the_others)
@@ -188,7 +202,8 @@ TEST(MiscPanel, counts_a_hundred_rows_and_shows_the_others)
     Program program{list};
     Main& form = program.form;
     for (int row : {99, 100, 101, 103}) form.chkMisc(row).set_state(1);
-    EXPECT_TRUE(form.txtTotal.text() == "199" && form.chkMisc(103).bold());
+    EXPECT_EQ(form.txtTotal.text(), "199");
+    EXPECT_TRUE(form.chkMisc(103).bold());
     form.TabStrip.choose(2);
     EXPECT_EQ(form.chkMisc(100).state() + form.chkMisc(103).state(), 1); // nobody keeps row 103's
 }

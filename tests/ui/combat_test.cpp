@@ -1,3 +1,4 @@
+#include "army/same_army.h"
 #include "ui/rich_text.h"
 #include "ui/test_desktop.h"
 
@@ -133,14 +134,17 @@ TEST(Apply, takes_the_losses_off_its_own_side_whichever_tab_is_selected)
         EXPECT_EQ(texts(form.txtANum(8), form.txtANum(9), form.txtANum(0)), "60/11/100");
         EXPECT_EQ(texts(form.txtTotalMod(0), form.txtTotalMod(1), form.lblRatio, form.lblRatioBonus), "1/0/< 1:1/+0");
         EXPECT_EQ(form.txtUnitNum(0).text(), tab == 1 ? "100" : "80"); // still
-        EXPECT_TRUE(form.CurArmy == form.ArmyA && form.ArmyA.UnitNum == before && form.ArmyB.TotalNo == 71);
+        EXPECT_TRUE(same(form.CurArmy, form.ArmyA));
+        EXPECT_EQ(form.ArmyA.UnitNum, before);
+        EXPECT_EQ(form.ArmyB.TotalNo, 71);
         EXPECT_EQ(combat.screen(), "Side A by 8 (17:9): 25%, bonus 1 | 8: 10 to 60, 35% is 8.8 | A 9 2, B 20 4");
         form.cmdApplyCasualties(1).press();
         EXPECT_EQ(texts(form.txtANum(8), form.txtANum(9), form.txtTotalMod(0)), "40/7/3"); // 125 to 47
         form.txtLoses(1).set_text("none");
         form.txtLoses(0).set_text("-3");
         form.cmdApplyCasualties(0).press();
-        EXPECT_TRUE(form.ArmyA.TotalNo == 128 && form.CurArmy == form.ArmyB);
+        EXPECT_EQ(form.ArmyA.TotalNo, 128);
+        EXPECT_TRUE(same(form.CurArmy, form.ArmyB));
         EXPECT_EQ(texts(form.lblRatio, form.lblRatioBonus), "2.7:1/+3");
         form.TabStrip.choose(2);
         EXPECT_EQ(texts(form.txtUnitNum(0), form.txtTotalNo), "40/47");
@@ -192,7 +196,8 @@ TEST_F(CombatScreen, simulates_and_reports_wins_ties_and_average_casualties)
     EXPECT_EQ(desktop.boxes, std::vector<std::string>{report({"50.0", "9.7", "25.0", "21.9", "25.0"})});
     EXPECT_EQ(screen(), "Side A by 6 (14:8): 20%, bonus 1 | 16: 2, 2% is 0.4 | A 0 0, B 16 3 [+5] [-5]");
     EXPECT_EQ(desktop.requests.at(0), "Enter the number of times to simulate a battle.|Simulate N Battles|1000");
-    EXPECT_TRUE(form.ArmyA == a && form.ArmyB == b);
+    EXPECT_TRUE(same(form.ArmyA, a));
+    EXPECT_TRUE(same(form.ArmyB, b));
     desktop.format.decimal = ",";
     for (char const* answer : {"", "-5", "many"}) { // one battle: 45% and a 16.65% of single precision
         desktop.typed = answer;
@@ -201,7 +206,8 @@ TEST_F(CombatScreen, simulates_and_reports_wins_ties_and_average_casualties)
         EXPECT_EQ(desktop.boxes.back(), report({"100,0", "16,6", "0,0", "45,0", "0,0"})) << answer;
     }
     EXPECT_EQ(screen(), "Side A by 11 (20:9): 45%, bonus 2 | 7: 10 to 60, 37% is 16,7 | A 16 4, B 36 7"); // 16 is read
-    EXPECT_TRUE(form.battle.VictorCasualty == 16.65F && random.values.empty());
+    EXPECT_EQ(form.battle.VictorCasualty, 16.65F);
+    EXPECT_TRUE(random.values.empty());
 }
 
 } // namespace

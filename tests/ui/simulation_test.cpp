@@ -1,6 +1,6 @@
 #include "ui/simulation_report.h"
 
-#include "test_desktop.h"
+#include "ui/test_desktop.h"
 
 namespace warhost {
 namespace {
@@ -9,12 +9,8 @@ namespace {
 /// and whether +5 and -5 are checked.
 using Start = std::array<int, 8>;
 
-struct Fighter {
-    TestDesktop desktop;
-    Generator generator;
-    Main form{desktop, generator};
-
-    Fighter(Start const& start, std::uint64_t seed) : generator(seed)
+struct Fighter : Started<Generator> {
+    Fighter(Start const& start, std::uint64_t seed) : Started(Generator{seed})
     {
         form.txtUnitNum(0).set_text("1234");
         TextBox* const boxes[] = {&form.txtTotalMod(0), &form.txtTotalMod(1),   &form.txtResult(0),
@@ -73,7 +69,7 @@ TEST(SimulateCommand, leaves_what_as_many_battles_on_the_screen_leave)
             ASSERT_EQ(quick.desktop.boxes.back(), slow.fight_on_the_screen(battles));
             ASSERT_EQ(quick.screen(), slow.screen());
             ASSERT_EQ(quick.form.battle, slow.form.battle);
-            ASSERT_TRUE(quick.generator == slow.generator);
+            ASSERT_TRUE(quick.random == slow.random);
         }
     }
 }
@@ -86,20 +82,21 @@ TEST(SimulateCommand, fights_as_many_battles_as_it_is_asked_for_in_batches)
     fighter.form.cmdSimulate.press();
     EXPECT_EQ(fighter.desktop.requests.at(1), "1048577 of 1048579");
     EXPECT_EQ(fighter.desktop.requests.at(2), "1048579 of 1048579");
-    Simulation{25, 0, {}}.fight(last.generator, 1048578);
+    Simulation{25, 0, {}}.fight(last.random, 1048578);
     last.fight_on_the_screen(1);
-    EXPECT_TRUE(fighter.generator == last.generator);
+    EXPECT_TRUE(fighter.random == last.random);
 }
 
 TEST(SimulateCommand, has_a_fingerprint)
 {
     Fighter fighter{{3, 1, 1, 0, 0, 0, 0, 0}, 20};
-    auto& [desktop, random, form] = fighter;
-    desktop.typed = "1000";
-    form.cmdSimulate.press();
-    EXPECT_EQ(desktop.boxes.back(), report({"57.2", "13.9", "39.6", "19.2", "3.2"}));
-    EXPECT_EQ(texts(form.txtResult(0), form.txtResult(1), form.txtVictorCasRoll, form.txtVictorCas), "8/18/9/9.6");
-    EXPECT_EQ(random.next(), 1431769798 * 0x1p-32);
+    fighter.desktop.typed = "1000";
+    fighter.form.cmdSimulate.press();
+    EXPECT_EQ(fighter.desktop.boxes.back(), report({"57.2", "13.9", "39.6", "19.2", "3.2"}));
+    EXPECT_EQ(texts(fighter.form.txtResult(0), fighter.form.txtResult(1), fighter.form.txtVictorCasRoll,
+                    fighter.form.txtVictorCas),
+              "8/18/9/9.6");
+    EXPECT_EQ(fighter.random.next(), 1431769798 * 0x1p-32);
 }
 
 TEST(SimulateCommand, says_the_exact_odds_and_how_far_the_sample_may_be_off)

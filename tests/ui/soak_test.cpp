@@ -72,7 +72,8 @@ TEST(Soak, whatever_is_done_the_records_and_the_screen_agree)
         if (testing::Test::HasFatalFailure()) FAIL() << "after round " << round;
     }
     EXPECT_LT(bytes_in_use(), early + 10000);
-    EXPECT_TRUE(!user.form.Updating && user.form.pending_error.number == 0);
+    EXPECT_FALSE(user.form.Updating);
+    EXPECT_EQ(user.form.pending_error.number, 0);
 }
 
 TEST(Soak, a_list_keeps_the_ends_of_its_ranges_and_makes_most_rows_when_they_are_asked_for)
@@ -90,7 +91,9 @@ TEST(Soak, a_list_keeps_the_ends_of_its_ranges_and_makes_most_rows_when_they_are
     EXPECT_EQ(form.cmbMisc(made + 1).place.Top, 300.0F * static_cast<float>(made + 1));
     int rows = made + 1;
     while (form.add_misc_row()) ++rows;
-    EXPECT_TRUE(rows == 100000 && form.cmbMisc.highest() == rows && form.chkMisc.highest() == rows) << rows;
+    EXPECT_EQ(rows, 100000) << rows;
+    EXPECT_EQ(form.cmbMisc.highest(), rows) << rows;
+    EXPECT_EQ(form.chkMisc.highest(), rows) << rows;
 }
 
 } // namespace

@@ -130,7 +130,8 @@ TEST(Window, bounds_what_is_entered_and_shows_what_a_file_brings_whole)
     std::string euros;
     for (int k = 0; k < 65535; ++k) euros += "\u20AC"; // the longest text of a file
     screen.form.txtArmyName.set_text(euros);
-    EXPECT_TRUE(name.text() == to_qt(euros) && screen.form.ArmyA.Name == euros);
+    EXPECT_TRUE(name.text() == to_qt(euros));
+    EXPECT_TRUE(screen.form.ArmyA.Name == euros);
     for (QLineEdit* const box : {&name, &level}) {
         box->clear();
         box->insert(QString{100000, '1'});
@@ -146,8 +147,11 @@ TEST(Window, a_list_may_hold_a_caption_of_any_length)
     folder.write("modif.txt", name + "\n1,3\n");
     Screen screen{1, folder.path()};
     auto& box = screen.named<QCheckBox>("chkMisc(1)");
-    EXPECT_TRUE(box.text().startsWith("The xxx") && box.text().endsWith(QChar{0x2026}) && box.text().size() < 100);
-    EXPECT_TRUE(box.toolTip().size() < 5000 && box.accessibleName().size() < 5000);
+    EXPECT_TRUE(box.text().startsWith("The xxx"));
+    EXPECT_TRUE(box.text().endsWith(QChar{0x2026}));
+    EXPECT_LT(box.text().size(), 100);
+    EXPECT_LT(box.toolTip().size(), 5000);
+    EXPECT_LT(box.accessibleName().size(), 5000);
     EXPECT_EQ(screen.form.chkMisc(1).caption(), name + " (+1 to +3)");
 }
 
@@ -230,7 +234,8 @@ TEST(Window, takes_no_input_from_anywhere_while_it_waits_for_a_disk_or_an_answer
     QWidget* const focus = screen.window.focusWidget();
     std::atomic<bool> told = false;
     QTimer::singleShot(700, [&] {
-        EXPECT_TRUE(QApplication::activeModalWidget()->isVisible() && QApplication::activeModalWidget()->isEnabled());
+        EXPECT_TRUE(QApplication::activeModalWidget()->isVisible());
+        EXPECT_TRUE(QApplication::activeModalWidget()->isEnabled());
         EXPECT_FALSE(screen.window.isEnabled());
         act_from_the_side(screen);
         EXPECT_TRUE(untouched());
@@ -241,7 +246,8 @@ TEST(Window, takes_no_input_from_anywhere_while_it_waits_for_a_disk_or_an_answer
     });
     EXPECT_TRUE(told);
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
-    EXPECT_TRUE(screen.window.isEnabled() && screen.window.focusWidget() == focus);
+    EXPECT_TRUE(screen.window.isEnabled());
+    EXPECT_EQ(screen.window.focusWidget(), focus);
     QTimer::singleShot(0, [&] {
         act_from_the_side(screen);
         EXPECT_TRUE(untouched());
@@ -381,7 +387,8 @@ TEST(Window, a_signal_to_end_asks_once_and_closes_the_open_dialogs)
         inner.exec();
     });
     outer.exec();
-    EXPECT_FALSE(left_open || screen.window.isVisible());
+    EXPECT_FALSE(left_open);
+    EXPECT_FALSE(screen.window.isVisible());
     EXPECT_EQ(screen.desktop.titles.size(), 2U);
 }
 
@@ -398,7 +405,8 @@ TEST(Window, a_signal_to_end_waits_for_a_file)
     screen.desktop.wait_for([&] {
         for (int wait = 0; wait < 500 && !noticed; ++wait) QThread::msleep(10);
     });
-    EXPECT_TRUE(noticed && screen.desktop.titles.empty());
+    EXPECT_TRUE(noticed);
+    EXPECT_TRUE(screen.desktop.titles.empty());
     EXPECT_TRUE(QTest::qWaitFor([&] { return !screen.desktop.titles.empty(); }));
     EXPECT_EQ(screen.desktop.titles.size(), 1U);
 }
