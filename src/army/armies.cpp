@@ -10,7 +10,7 @@ namespace warhost {
 
 namespace {
 
-/// Everything that the total modifier adds up but the experience bonus.
+/// The total modifier without the experience bonus.
 std::int32_t total_without_level(Army const& army)
 {
     std::int32_t sum = 0;

@@ -8,7 +8,7 @@
 
 namespace warhost {
 
-/// What a Side is.
+/// The values of a Side parameter.
 inline constexpr int side_a = 1;
 inline constexpr int side_b = 2;
 

@@ -13,7 +13,7 @@ inline constexpr int record_units = 31;    // unit rows in the record
 inline constexpr int record_choices = 101; // entries of each choice array, 0 to 100
 inline constexpr int category_count = 8;
 
-/// A stretch of the record that no rule reads: carried from file to file as it is, zero in a new army.
+/// Bytes of the record that no rule reads: copied from file to file unchanged, zero in a new army.
 template <std::size_t size> using Reserved = std::array<std::uint8_t, size>;
 
 /// A list of the record that no rule reads, in its encoded form; a new army holds lists that were never sized.

@@ -12,7 +12,7 @@ namespace warhost {
 inline constexpr std::array<std::int16_t, 12> level_bonuses{0, 0, 1, 3, 5, 7, 9, 11, 13, 15, 17, 20};
 
 /// Bonus of an army of average level `level` against one of `other_level`: the quotient in single precision, below 1
-/// taken as 0, at most 11, rounded with halves to even. 0 when the other level is 0 or a level is no finite number.
+/// taken as 0, at most 11, rounded with halves to even. 0 when the other level is 0 or a level is not finite.
 inline std::int16_t level_bonus(float level, float other_level)
 {
     if (!std::isfinite(level) || !std::isfinite(other_level) || other_level == 0) return 0;

@@ -69,8 +69,8 @@ Decimal longest_decimal(std::string_view text)
     return found;
 }
 
-/// Whether a number that no double can hold is too large rather than too small: the place of its first digit other
-/// than 0, counted from the decimal point, moved by the exponent.
+/// Whether a number outside the range of double is too large rather than too small: decided by the position of its
+/// first nonzero digit, counted from the decimal point, plus the exponent.
 bool is_large(std::string_view characters)
 {
     auto const exponent_at = std::min(characters.find('e'), characters.size());
@@ -110,7 +110,7 @@ bool starts_with_at(std::string_view text, std::size_t at, std::string_view part
     return !part.empty() && text.substr(at, part.size()) == part;
 }
 
-/// The whole text as a number of the regional format; nothing when it is none.
+/// The whole text as a number in the regional format; nothing when it is not one.
 std::optional<double> regional_number(std::string_view text, NumberFormat const& format)
 {
     text = without_outer(" \t", text);

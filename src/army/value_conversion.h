@@ -13,7 +13,8 @@ struct NumberFormat {
     std::string group = ",";
 };
 
-/// The leading number of a text: blanks, tabs and line feeds vanish first; then the longest prefix of sign, digits,
+/// The leading number of a text: blanks, tabs and line feeds are removed first; then the longest prefix of sign,
+/// digits,
 /// ".", digits, exponent (E or D), or &H / &O and digits of that base. 0 when there is none. The separator is always
 /// ".". A number beyond double precision gives an infinity, one too small for it 0. Never fails.
 double leading_number(std::string_view text);
@@ -40,11 +41,11 @@ std::string plain_text(std::int64_t n);
 /// Plain decimal digits in groups of three, with the regional separator between them. n is not negative.
 std::string grouped_text(std::int64_t n, NumberFormat const& format);
 
-/// A number with "." between its digits as the region writes it.
+/// number with its "." replaced by the regional decimal separator.
 std::string with_decimal_separator(std::string number, NumberFormat const& format);
 
 /// The fewest decimals that read back as value, with the regional decimal separator: "1", "2.5". An exponent appears
-/// below 1E-5 and from 1E+15 on. What is no finite number gives "0".
+/// below 1E-5 and from 1E+15 on. A value that is not finite gives "0".
 std::string general_text(float value, NumberFormat const& format);
 
 /// A number of tenths with exactly one decimal: 167 gives "16.7".

@@ -11,7 +11,7 @@ constexpr char lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c
 
 constexpr bool is_letter(char c) { return lower(c) >= 'a' && lower(c) <= 'z'; }
 
-/// 0 to 15; nothing for what is no hexadecimal digit.
+/// 0 to 15; nothing for any other character.
 constexpr std::optional<int> hex_digit(char c)
 {
     if (is_digit(c)) return c - '0';

@@ -16,13 +16,13 @@ namespace warhost {
     return static_cast<std::int32_t>(value);
 }
 
-/// a + b. Throws the overflow Failure when the sum is no signed 32-bit integer.
+/// a + b. Throws the overflow Failure when the sum does not fit.
 [[nodiscard]] inline std::int32_t checked_sum(std::int32_t a, std::int32_t b)
 {
     return checked_int32(std::int64_t{a} + b);
 }
 
-/// a - b. Throws the overflow Failure when the difference is no signed 32-bit integer.
+/// a - b. Throws the overflow Failure when the difference does not fit.
 [[nodiscard]] inline std::int32_t checked_difference(std::int32_t a, std::int32_t b)
 {
     return checked_int32(std::int64_t{a} - b);

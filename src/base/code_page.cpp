@@ -12,7 +12,7 @@ namespace warhost {
 
 namespace {
 
-/// Characters of the bytes 80 to 9F; every other byte stands for the character of its own number.
+/// Characters of the bytes 80 to 9F; every other byte is the character with the same number.
 constexpr std::array<char32_t, 32> upper_controls{
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
@@ -20,7 +20,7 @@ constexpr std::array<char32_t, 32> upper_controls{
 };
 constexpr unsigned first_upper_control = 0x80;
 
-/// The character that starts at text[at], and at moved behind it; nothing when no well-formed one starts there.
+/// Returns the character that starts at text[at] and moves `at` past it; nothing when no well-formed one starts there.
 std::optional<char32_t> next_character(std::string_view text, std::size_t& at)
 {
     struct Form {

@@ -11,7 +11,8 @@ namespace warhost {
 /// control characters of the same number, so that every byte survives the way there and back.
 std::string utf8_of_windows_1252(std::string_view bytes);
 
-/// The text's bytes in Windows-1252, and the first character that has none, named for the user, which ends them.
+/// The text's bytes in Windows-1252 up to the first character outside the code page, which `outside` then describes
+/// for the user.
 struct CodePageText {
     std::string bytes;
     std::optional<std::string> outside;

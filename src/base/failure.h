@@ -46,7 +46,7 @@ enum class Fault : std::int32_t {
     text_too_long = 303,
 };
 
-/// What the user reads of a fault.
+/// The text shown for a fault.
 constexpr std::string_view fault_text(Fault fault)
 {
     switch (fault) {

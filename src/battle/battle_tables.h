@@ -1,4 +1,4 @@
-// The battle laid out on integers, on which stand the simulation (sampled) and the odds (exact).
+// A battle reduced to integer tables, shared by the simulation (sampled) and the odds (exact).
 #pragma once
 
 #include "base/limits.h"
@@ -43,7 +43,7 @@ struct Judgement {
     std::int8_t roll;
 };
 
-/// Where in the table the judgements of all dice begin, a sum of what the bonus and what the boxes contribute.
+/// The offset of the judgements of all dice: the sum of one offset for the bonus and one for the boxes.
 constexpr std::size_t judgements_from(unsigned bonus, Boxes boxes) { return (bonus * box_states + boxes) * die_sides; }
 
 constexpr std::size_t judgement_index(unsigned bonus, Boxes boxes, unsigned die)
@@ -81,7 +81,7 @@ inline constexpr auto boxes_of_shown = [] {
     }
     return table;
 }();
-// Any other roll may count as the nearer end: both ends check no box, and no more does a roll beyond them.
+// Any other roll is clamped to the ends, which check no box either.
 static_assert(boxes_of_shown.front() == 0 && boxes_of_shown.back() == 0);
 // A battle whose first die ties may end in a tie, too, which evaluates the same roll again and checks no further box.
 static_assert([] {

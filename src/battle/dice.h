@@ -1,4 +1,4 @@
-// What a random value turns into.
+// Converts random values to dice and percentages.
 #pragma once
 
 #include <cstdint>
@@ -6,12 +6,12 @@
 namespace warhost {
 
 /// A whole number, uniform over low to high, both included: floor(r x (high - low + 1)) + low, r one value of the
-/// source. low <= high. A source that has draw() gives r times 2^32 by it.
+/// source. low <= high. draw(), where the source has it, returns r times 2^32.
 template <class Source> int roll_between(Source& random, int low, int high)
 {
     auto const count = static_cast<std::uint32_t>(high - low + 1);
     if constexpr (requires { random.draw(); }) {
-        // A value of 32 bits times a small count is exact in a double, so integers give the same number, and faster.
+        // A 32-bit value times a small count is exact in a double, so integers give the same result, faster.
         return static_cast<int>((std::uint64_t{random.draw()} * count) >> 32U) + low;
     } else {
         return static_cast<int>(random.next() * count) + low;

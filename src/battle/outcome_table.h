@@ -1,4 +1,4 @@
-// What the margin of a battle means: the loser's casualties, the account of it, the victor's bonus.
+// The consequences of a battle's margin: the loser's casualties, their description, the victor's bonus.
 #pragma once
 
 #include <algorithm>

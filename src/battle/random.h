@@ -1,4 +1,4 @@
-// The random source that everything draws from, and the program's generator.
+// The interface of random sources, and the program's generator.
 #pragma once
 
 #include <array>
@@ -6,7 +6,7 @@
 
 namespace warhost {
 
-/// A source of chance. Handed in wherever something is rolled, so that a test can choose what comes.
+/// A source of random numbers, passed in wherever dice are rolled, so that a test can choose the values.
 class RandomSource {
 public:
     RandomSource() = default;

@@ -26,7 +26,7 @@ double Tally::casualty_margin(int Index) const
     double squares = 0;
     visit_casualties(Index,
                      [&](double count, double percent) { squares += count * (percent - mean) * (percent - mean); });
-    // A few battles say little of how much they vary; half the scale bounds it.
+    // A small sample underestimates the deviation; half the scale is its upper bound.
     constexpr int few = 30;
     double const deviation = number < few ? highest_share / 2.0 : std::sqrt(squares / (number - 1));
     return normal_95 * deviation / std::sqrt(number);
@@ -56,7 +56,7 @@ void Simulation::fight(RandomSource& random, std::int32_t battles)
 
 template <class Source> void Simulation::run(Source& random, std::int32_t battles)
 {
-    // What every battle touches is a local variable, so that it stays in a register.
+    // Local copies of the state stay in registers.
     std::conditional_t<std::is_abstract_v<Source>, Source&, Source> source = random;
     int result_b = carried_over_.result_b;
     Judgement const before{0, 0, 0, static_cast<std::int8_t>(carried_over_.victor_roll)};

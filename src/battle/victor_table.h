@@ -1,4 +1,4 @@
-// The victor's casualty roll: what range of the loser's percentage it stands for, and whether it must be rolled again.
+// The victor's casualty roll: the range of the loser's percentage that it selects, and whether it must be rolled again.
 #pragma once
 
 #include <array>
@@ -6,7 +6,7 @@
 
 namespace warhost {
 
-/// A victor's casualty roll as it is judged: natural is the die, roll the die with its bonus.
+/// A victor's casualty roll: natural is the die alone, roll the die with its bonus.
 struct CasualtyRoll {
     int roll;
     int natural;
@@ -48,7 +48,8 @@ inline constexpr std::array victor_table{
 
 static_assert(victor_table.size() == 12);
 
-/// The row of a roll; nullptr beyond -999..999 without a natural 1 or 20: no account, and the range stays as it is.
+/// The row of a roll; nullptr beyond -999..999 without a natural 1 or 20: then there is no account and the range does
+/// not change.
 constexpr VictorRow const* victor_row_of(CasualtyRoll const& roll)
 {
     for (auto const& row : victor_table) {
@@ -57,7 +58,7 @@ constexpr VictorRow const* victor_row_of(CasualtyRoll const& roll)
     return nullptr;
 }
 
-/// What a tie puts in place of the row's account and range.
+/// These replace the row's account and range on a tie.
 inline constexpr std::string_view tie_account = "Tie!";
 inline constexpr int tie_percent = 100;
 

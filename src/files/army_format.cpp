@@ -140,7 +140,7 @@ private:
         return taken;
     }
 
-    /// what: why the bytes do not do, from the place that has been read to on.
+    /// what: what is missing at the current offset.
     [[noreturn]] void fail(std::string const& what) const
     {
         throw failure_of(Fault::file_too_short, "it ends at byte " + std::to_string(bytes_.size()) + ", but " + what +

@@ -19,7 +19,7 @@ struct ErrorMeaning {
     std::errc meaning;
 };
 
-/// What the library has no name for.
+/// Error codes without a name in std::errc.
 constexpr std::array error_meanings{
     ErrorMeaning{EDQUOT, std::errc::no_space_on_device},
     ErrorMeaning{EHOSTDOWN, std::errc::host_unreachable},
@@ -28,7 +28,7 @@ constexpr std::array error_meanings{
     ErrorMeaning{ESTALE, std::errc::no_link},
 };
 
-/// The kernel takes a lease away after 45 seconds, unless it is set otherwise.
+/// The kernel revokes a lease after 45 seconds by default.
 constexpr std::chrono::seconds longest_lease{50};
 
 void require_ordinary(struct stat const& status, std::filesystem::path const& path)
@@ -79,7 +79,7 @@ Descriptor open_ordinary(std::filesystem::path const& path, int access)
         return Descriptor{uninterrupted([&] { return ::open(path.c_str(), flags, creates_nothing); })};
     };
     Descriptor file = open();
-    // Another program, such as a file server, has a lease on the file and has now been asked to give it up.
+    // Another program, such as a file server, holds a lease on the file and has now been asked to release it.
     auto const end = std::chrono::steady_clock::now() + longest_lease;
     while (!file.is_open() && errno == EAGAIN && std::chrono::steady_clock::now() < end) {
         std::this_thread::sleep_for(std::chrono::milliseconds{20});

@@ -23,11 +23,11 @@ void remove_abandoned(int folder, char const* name)
     struct stat locked = {};
     auto const look = [&] { return ::fstatat(folder, name, &named, AT_SYMLINK_NOFOLLOW) == 0 && is_own(named); };
     if (!look()) return;
-    // Network file systems give exclusive locks only to those who may write.
+    // Network file systems grant exclusive locks only on descriptors open for writing.
     constexpr int flags = O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
     Descriptor const file{uninterrupted([&] { return ::openat(folder, name, flags); })};
     if (!file.is_open() || ::flock(file.number(), LOCK_EX | LOCK_NB) != 0) return;
-    // A name that still leads to the locked file is nobody's: its owner would have kept the lock until renaming it.
+    // A name that still refers to the locked file is abandoned: its owner would have held the lock until renaming it.
     if (::fstat(file.number(), &locked) == 0 && look() && same_file(named, locked)) ::unlinkat(folder, name, 0);
 }
 

@@ -19,7 +19,7 @@ std::string read_ordinary_file(std::filesystem::path const& path, std::size_t mo
     std::string block(std::size_t{64} * 1024, '\0');
     while (bytes.size() <= most) {
         ssize_t const count = uninterrupted([&] { return ::read(file.number(), block.data(), block.size()); });
-        // Some files of /proc look ordinary and make their readers wait.
+        // Some files under /proc look ordinary but block their readers.
         if (count < 0 && errno == EAGAIN) throw failure_of(Fault::not_a_file, path.native());
         require(count >= 0);
         if (count == 0) return bytes;

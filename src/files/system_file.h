@@ -1,6 +1,5 @@
-// The system's own part of reading and replacing files, once for each platform. Everything here throws
-// std::system_error, or a Failure where the system has no error of its own; a filesystem_error carries the path that
-// was refused when it is not the one given.
+// Reading and replacing files, implemented for each platform. The functions throw std::system_error, or a Failure
+// where the system has no error code; a filesystem_error carries the refused path when it is not the one given.
 #pragma once
 
 #include <cstddef>

@@ -16,7 +16,7 @@ namespace {
 
 fs::path path_of(std::string const& utf8)
 {
-    // The system would take a null character for the end.
+    // The system would treat a null character as the end of the path.
     if (utf8.find('\0') != std::string::npos) throw failure_of(Fault::bad_name, utf8);
     try {
         return {std::u8string{utf8.begin(), utf8.end()}};

@@ -9,7 +9,7 @@ namespace warhost {
 
 namespace {
 
-/// Set for as long as it lives.
+/// Keeps the flag set during its lifetime.
 class RaisedFlag {
 public:
     explicit RaisedFlag(bool& flag) : flag_(flag) { flag = true; }

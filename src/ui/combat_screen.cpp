@@ -55,7 +55,7 @@ void Main::txtResult_Change(int /*Index*/)
     if (battle.Winner == tie) txtVictorCasRoll_Change();
 }
 
-/// No description rather than one of another battle, should there be no memory for it.
+/// Without memory for the description, shows none rather than that of another battle.
 void Main::describe(RichTextBox& box, std::string_view account, std::string_view heading)
 {
     if (!quiet_step([&] { box.set_document(rich_text_account(heading, account)); })) box.set_document({});

@@ -1,4 +1,4 @@
-// Everything that the form asks of the window system and that is no field.
+// Everything that the form asks of the window system, apart from its fields.
 #pragma once
 
 #include "army/value_conversion.h"
@@ -68,12 +68,12 @@ public:
         message_box(report);
     }
 
-    /// A simulation has fought so many of its battles; called every few milliseconds, the last time with all of them.
-    /// The tally may lack the last battle. The user gets no control.
+    /// Shows how many battles of a simulation have been fought; called every few milliseconds, the last time with all
+    /// of them. The tally may lack the last battle. Accepts no input.
     virtual void show_progress(std::int32_t /*fought*/, std::int32_t /*battles*/, Tally const& /*so_far*/) {}
 
     /// Runs work that waits for a disk or a network folder, and returns when it is done; what it throws is thrown here.
-    /// The user is told when it takes long, and gets no control.
+    /// Shows a message when it takes long. Accepts no input meanwhile.
     virtual void wait_for(std::function<void()> const& work) { work(); }
 
     /// The text typed; empty when cancelled.

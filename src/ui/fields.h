@@ -19,7 +19,7 @@ namespace warhost {
 
 using Notification = std::function<void()>;
 
-/// What every control has.
+/// The part common to all controls.
 class Control {
 public:
     explicit Control(std::string name) : name_(std::move(name)) {}
@@ -88,7 +88,7 @@ private:
     std::string text_;
 };
 
-/// Where a row of the misc panel stands.
+/// The place of a row of the misc panel.
 struct Place {
     float Left = 0;
     float Top = 0;
@@ -117,7 +117,7 @@ public:
     /// index: 0 to list_size() - 1.
     std::string item(int index) const { return item_text_(first_ + index); }
 
-    /// Where the field's own text is in the list; -1 when it is not there.
+    /// The index of the field's own text in the list; -1 when it is not listed.
     int listed_index() const
     {
         std::int64_t const index = std::int64_t{TextToLong(text())} - first_;

@@ -72,7 +72,7 @@ public:
 
     // Misc panel (misc_rows.cpp)
 
-    /// Makes the list's first rows; a list may have millions.
+    /// Makes the list's first rows only, as a list may have millions.
     void ReadMiscMod();
     void PositionMiscMod();
     /// Makes the list's next row, below the others. False when there is none, or no memory for it.
@@ -108,7 +108,7 @@ public:
 
     /// Shows the pending error, if there is one, and clears it; Abort ends the program.
     void ErrReport(std::string_view context);
-    /// False after telling the user that the file is missing.
+    /// Shows a message when the file is missing, and returns false.
     bool CheckFile(std::string const& path);
 
     /// Runs one step of a procedure that reports at its end: a Failure, or a lack of memory, becomes the pending error.
@@ -144,8 +144,8 @@ public:
     }
 
 private:
-    /// At its end selects the tab that was selected when it was made. What waits, for an answer or for a disk, may let
-    /// other events in.
+    /// Restores the selected tab when it goes out of scope: while the form waits for an answer or for a disk, other
+    /// events may arrive.
     class KeptTab {
     public:
         explicit KeptTab(Main& form) : form_(form), position_(form.TabStrip.position()) {}

@@ -1,4 +1,4 @@
-// Memory that is set aside for the moment when there is none left.
+// Memory kept in reserve for when an allocation fails.
 #pragma once
 
 #include <array>
@@ -8,12 +8,12 @@
 
 namespace warhost {
 
-/// Freed when an allocation fails, so that the step that failed can run once more and the user can be told.
+/// Freed when an allocation fails, so that the failed step can run once more and an error can be shown.
 class MemoryReserve {
 public:
     MemoryReserve() noexcept { fill(); }
 
-    /// Sets the memory aside again, where there is enough.
+    /// Allocates the reserve again if there is enough memory.
     void fill() noexcept
     {
         if (!block_) block_.reset(new (std::nothrow) Block);

@@ -66,7 +66,7 @@ bool Main::make_misc_row()
         box.help_topic = entry->help_topic;
     });
     if (made) return true;
-    // Armies know the rows by their place, so no later row may take this one's.
+    // Armies identify rows by position, so no later row may take this position.
     chkMisc.remove(row);
     cmbMisc.remove(row);
     misc_list_ = {};

@@ -15,7 +15,7 @@ namespace warhost {
 
 namespace {
 
-/// What a closing brace takes back. Small: a document may be nothing but opening braces.
+/// The state that a closing brace restores. Small, as a document may consist of opening braces only.
 struct GroupState {
     bool bold = false;
     bool skipped = false;
@@ -65,7 +65,7 @@ private:
         ended_ = groups_.empty();
     }
 
-    /// Behind a backslash.
+    /// Reads on after a backslash.
     void control()
     {
         char const c = text_[at_];
@@ -120,7 +120,7 @@ private:
         return text_.substr(start, at_ - start);
     }
 
-    /// All bytes of the character that begins here.
+    /// All bytes of the character at the current position.
     std::string_view next_character()
     {
         std::size_t const start = at_++;

@@ -7,7 +7,7 @@
 
 namespace warhost {
 
-/// Neighbouring characters of one look.
+/// Adjacent characters in the same style.
 struct RichTextRun {
     std::string text; // UTF-8; no ASCII control character but the tab
     bool bold = false;
