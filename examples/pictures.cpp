@@ -4,8 +4,9 @@
 #include "ui/main.h"
 #include "ui/qt/dialogs/qt_desktop.h"
 #include "ui/qt/dialogs/report_box.h"
+#include "ui/qt/look/colours.h"
+#include "ui/qt/look/page_style.h"
 #include "ui/qt/screens/window.h"
-#include "ui/qt/widgets/outline_style.h"
 
 #include <QApplication>
 #include <QPalette>
@@ -51,17 +52,6 @@ private:
     QString folder_;
 };
 
-QPalette dark_palette()
-{
-    QPalette palette{QColor{0x35, 0x36, 0x3a}, QColor{0x2b, 0x2c, 0x30}};
-    palette.setColor(QPalette::Base, QColor{0x1e, 0x1f, 0x22});
-    for (auto const role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-        palette.setColor(role, QColor{0xe6, 0xe6, 0xe6});
-    }
-    palette.setColor(QPalette::Highlight, QColor{0x4c, 0x8d, 0xd6});
-    return palette;
-}
-
 } // namespace
 
 int main(int argc, char* argv[])
@@ -71,7 +61,7 @@ int main(int argc, char* argv[])
         return EXIT_FAILURE;
     }
     QApplication const application{argc, argv};
-    QApplication::setStyle(new OutlineStyle);
+    QApplication::setStyle(new PageStyle);
     QFont font{"DejaVu Sans"};
     font.setPixelSize(11);
     QApplication::setFont(font);

@@ -5,9 +5,9 @@
 #include "ui/qt/dialogs/qt_desktop.h"
 #include "ui/qt/end_signals.h"
 #include "ui/qt/help/help_viewer.h"
+#include "ui/qt/look/page_style.h"
 #include "ui/qt/screens/window.h"
 #include "ui/qt/toolkit_settings.h"
-#include "ui/qt/widgets/outline_style.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -32,7 +32,7 @@ int main(int argc, char* argv[])
     warhost::keep_no_toolkit_settings();
     QCoreApplication::setApplicationName("warhost");
     QGuiApplication::setDesktopFileName("warhost");
-    QApplication::setStyle(new warhost::OutlineStyle);
+    QApplication::setStyle(new warhost::PageStyle);
     QGuiApplication::setWindowIcon(window_icon());
     // No display name: it would be appended to the title of every dialog.
 

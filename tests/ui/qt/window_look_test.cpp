@@ -1,7 +1,7 @@
 // Nothing is clipped, everything is readable, reachable and named.
 #include "window_fixture.h"
 
-#include "ui/qt/widgets/contrast.h"
+#include "ui/qt/look/contrast.h"
 
 #include <QCheckBox>
 #include <QComboBox>

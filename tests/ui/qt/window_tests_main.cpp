@@ -1,5 +1,5 @@
+#include "ui/qt/look/page_style.h"
 #include "ui/qt/toolkit_settings.h"
-#include "ui/qt/widgets/outline_style.h"
 
 #include <QApplication>
 #include <QFile>
@@ -28,7 +28,7 @@ int main(int argc, char* argv[])
     qputenv("XDG_CONFIG_HOME", folder.path().toUtf8());
     QApplication const application{argc, argv};
     warhost::keep_no_toolkit_settings();
-    QApplication::setStyle(new warhost::OutlineStyle{qEnvironmentVariable("WARHOST_TEST_STYLE", "fusion")});
+    QApplication::setStyle(new warhost::PageStyle{qEnvironmentVariable("WARHOST_TEST_STYLE", "fusion")});
     QApplication::setQuitOnLastWindowClosed(false);
     return RUN_ALL_TESTS();
 }

@@ -1,7 +1,7 @@
 #include "ui/qt/dialogs/about_box.h"
 
 #include "ui/desktop.h"
-#include "ui/qt/widgets/scale.h"
+#include "ui/qt/look/scale.h"
 #include "ui/version.h"
 
 #include <QApplication>

@@ -3,7 +3,7 @@
 
 #include "ui/desktop.h"
 #include "ui/qt/dialogs/simulation_progress.h"
-#include "ui/qt/widgets/scale.h"
+#include "ui/qt/look/scale.h"
 
 #include <QSize>
 #include <QString>

@@ -1,7 +1,7 @@
 #include "ui/qt/help/help_page.h"
 
 #include "ui/qt/help/help_contents.h"
-#include "ui/qt/widgets/contrast.h"
+#include "ui/qt/look/contrast.h"
 
 #include <QDir>
 #include <QEvent>

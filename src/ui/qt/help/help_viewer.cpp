@@ -2,7 +2,7 @@
 
 #include "ui/qt/help/find_bar.h"
 #include "ui/qt/help/help_page.h"
-#include "ui/qt/widgets/scale.h"
+#include "ui/qt/look/scale.h"
 
 #include <QAction>
 #include <QMenuBar>

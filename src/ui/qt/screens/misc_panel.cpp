@@ -1,7 +1,7 @@
 #include "ui/qt/screens/misc_panel.h"
 
+#include "ui/qt/look/contrast.h"
 #include "ui/qt/widgets/binding.h"
-#include "ui/qt/widgets/contrast.h"
 #include "ui/qt/widgets/text.h"
 #include "ui/qt/widgets/value_box.h"
 

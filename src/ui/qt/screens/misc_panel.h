@@ -2,8 +2,8 @@
 #pragma once
 
 #include "ui/army_controls.h"
+#include "ui/qt/look/scale.h"
 #include "ui/qt/widgets/caption_frame.h"
-#include "ui/qt/widgets/scale.h"
 
 #include <functional>
 #include <vector>

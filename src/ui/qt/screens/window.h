@@ -2,7 +2,7 @@
 #pragma once
 
 #include "ui/main.h"
-#include "ui/qt/widgets/scale.h"
+#include "ui/qt/look/scale.h"
 
 #include <QMainWindow>
 #include <QTimer>

@@ -1,4 +1,4 @@
-#include "ui/qt/widgets/contrast.h"
+#include "ui/qt/look/contrast.h"
 
 #include <algorithm>
 #include <cmath>
@@ -29,13 +29,18 @@ double contrast_ratio(QColor const& one, QColor const& other)
     return (lighter + 0.05) / (darker + 0.05);
 }
 
+QColor contrasting_mixture(QColor const& one, QColor const& other, QColor const& background, double sufficient)
+{
+    for (int percent = 0; percent < 100; ++percent) {
+        QColor const mixed = mixture(one, other, percent);
+        if (contrast_ratio(mixed, background) >= sufficient) return mixed;
+    }
+    return other;
+}
+
 QColor readable_colour(QColor const& colour, QColor const& background, QColor const& text)
 {
-    for (int percent = 0; percent < 100; percent += 10) {
-        QColor const mixed = mixture(colour, text, percent);
-        if (contrast_ratio(mixed, background) >= least_contrast) return mixed;
-    }
-    return text;
+    return contrasting_mixture(colour, text, background, least_contrast);
 }
 
 } // namespace warhost

@@ -1,8 +1,10 @@
-#include "ui/qt/widgets/scale.h"
+#include "ui/qt/look/scale.h"
 
+#include <QApplication>
 #include <QFontInfo>
 #include <QGuiApplication>
 #include <QScreen>
+#include <QWidget>
 
 #include <algorithm>
 
@@ -22,6 +24,12 @@ double pixel_height(QFont const& font)
 }
 
 double growth(QFont const& font) { return std::max(1.0, QFontInfo{font}.pixelSize() / Scale::base_font_pixels); }
+
+Scale scale_of(QWidget const* widget)
+{
+    QFont const font = widget != nullptr ? widget->window()->font() : QApplication::font();
+    return Scale{std::max(pixel_height(font), Scale::base_font_pixels)};
+}
 
 QFont fitting_font(QFont font, double width, double height, QSize room)
 {

@@ -6,6 +6,8 @@
 
 #include <cmath>
 
+class QWidget;
+
 namespace warhost {
 
 /// Lengths in pixels, from twips or from pixels of the base size.
@@ -17,6 +19,8 @@ public:
     Scale() = default;
     explicit Scale(double font_pixels) : twips_per_pixel_(base_twips_per_pixel * base_font_pixels / font_pixels) {}
 
+    /// How many times larger than at the base size.
+    double factor() const { return base_twips_per_pixel / twips_per_pixel_; }
     double twips_per_pixel() const { return twips_per_pixel_; }
     int from_twips(double twips) const { return static_cast<int>(std::lround(twips / twips_per_pixel_)); }
     int from_base(double pixels) const { return from_twips(pixels * base_twips_per_pixel); }
@@ -31,6 +35,9 @@ double pixel_height(QFont const& font);
 
 /// How many times larger than at the base size a window of its own is drawn in its font; at least 1.
 double growth(QFont const& font);
+
+/// The scale of the window that a widget stands in, by its font; at least the base size.
+Scale scale_of(QWidget const* widget);
 
 /// The user's font at the size to use: not below the base, and otherwise not larger than what lets a window of the
 /// given size in twips fit into the room.
