@@ -4,10 +4,17 @@
 #include "army/army.h"
 #include "ui/fields.h"
 
+#include <array>
+#include <string_view>
+
 namespace warhost {
 
-/// txtAName, txtANum and txtLoses hold the unit rows of both sides, Side A's first: Index is 0 for Side A, 1 for Side B.
+/// txtAName, txtANum and txtLoses hold the unit rows of both sides, Side A's first: Index is 0 for Side A, 1 for Side
+/// B.
 constexpr int combat_row(int Index, int row) { return unit_rows * Index + row; }
+
+/// What lblWinner says, by BattleWinner. Before the first result it says something else.
+inline constexpr std::array<std::string_view, 3> winner_captions{"Side A", "Side B", "Tie!"};
 
 /// The army screen has the other elements of the array Label.
 struct CombatControls {

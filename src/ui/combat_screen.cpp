@@ -6,20 +6,11 @@
 #include "ui/main.h"
 #include "ui/rich_text.h"
 
-#include <array>
 #include <cstdint>
 #include <cstdlib>
 #include <utility>
 
 namespace warhost {
-
-namespace {
-
-/// Whose rows take the loser's percentage, and whose the victor's: on a tie Side A's and Side B's.
-int loser_index(BattleWinner Winner) { return Winner == side_a_won ? 1 : 0; }
-int victor_index(BattleWinner Winner) { return 1 - loser_index(Winner); }
-
-} // namespace
 
 void Main::cmdRollAll_Click()
 {
@@ -40,12 +31,11 @@ void Main::cmdRoll_Click(int Index)
 void Main::txtResult_Change(int /*Index*/)
 {
     quiet_step([&] {
-        constexpr std::array winner_captions{"Side A", "Side B", "Tie!"};
         battle.ResultA = TextToInt(txtResult(0).text());
         battle.ResultB = TextToInt(txtResult(1).text());
         battle.Winner = winner_of(battle.ResultA, battle.ResultB);
         battle.WinMargin = std::abs(battle.ResultA - battle.ResultB);
-        lblWinner.set_caption(winner_captions.at(static_cast<std::size_t>(battle.Winner)));
+        lblWinner.set_caption(std::string{winner_captions.at(static_cast<std::size_t>(battle.Winner))});
         lblWinBy.set_caption(plain_text(battle.WinMargin));
         Outcome const* const outcome = outcome_of(battle.WinMargin);
         describe(txtBattleResults, outcome != nullptr ? outcome->account : "");

@@ -228,7 +228,12 @@ public:
     explicit Button(std::string name, std::string caption) : Control(std::move(name)), caption_(std::move(caption)) {}
 
     std::string const& caption() const { return caption_; }
-    void press() const { notify(Click); }
+    /// Runs Click, then shows that this is done.
+    void press() const
+    {
+        notify(Click);
+        notify(show);
+    }
 
     Notification Click;
 

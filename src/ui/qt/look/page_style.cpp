@@ -2,6 +2,7 @@
 
 #include "ui/qt/look/colours.h"
 #include "ui/qt/look/contrast.h"
+#include "ui/qt/look/ink.h"
 #include "ui/qt/look/scale.h"
 
 #include <QApplication>
@@ -50,7 +51,7 @@ public:
     ~Pen() { painter_.restore(); }
 
     double length(double base) const { return scale_.factor() * base; }
-    double line() const { return std::max(1, scale_.from_base(1)); }
+    double line() const { return scale_.line(); }
 
     void fill(QRectF const& room, double corner, QColor const& colour)
     {
@@ -241,13 +242,16 @@ public:
     explicit PagePaletteFollower(QWidget& widget) : QObject(&widget), widget_(widget)
     {
         setObjectName("PagePaletteFollower");
-        widget.installEventFilter(this);
+        widget.window()->installEventFilter(this); // windows alone are told of the user's palette
         widget.setPalette(page_palette());
     }
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        if (event->type() == QEvent::ApplicationPaletteChange) widget_.setPalette(page_palette());
+        if (event->type() == QEvent::ApplicationPaletteChange) {
+            widget_.setPalette(page_palette());
+            renew_inks(widget_);
+        }
         return QObject::eventFilter(watched, event);
     }
 
@@ -398,10 +402,11 @@ QRect PageStyle::subControlRect(ComplexControl control, QStyleOptionComplex cons
             return scroll_bar_part(*proxy(), *bar, part);
         }
     }
+    if (control == CC_GroupBox && part == SC_GroupBoxContents) return option->rect;
     if (control == CC_ComboBox) {
         Scale const scale = scale_of(widget);
         int const arrow = scale.from_base(arrow_width);
-        int const edge = std::max(1, scale.from_base(1));
+        int const edge = scale.line();
         QRect const inside = option->rect.adjusted(edge, edge, -edge, -edge);
         QRect at = inside;
         switch (part) {

@@ -40,7 +40,7 @@ void make_cell(QLineEdit& box);
 /// The button to press next. In dialogs the default button is strong by itself.
 void set_strong(QPushButton& button, bool strong);
 
-/// Gives a widget page_palette(), also after the user's palette has changed.
+/// Gives a widget page_palette(), also after the user's palette has changed. The widget must be in its window already.
 void follow_page_palette(QWidget& widget);
 
 } // namespace warhost

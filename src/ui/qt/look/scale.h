@@ -4,6 +4,7 @@
 #include <QFont>
 #include <QSize>
 
+#include <algorithm>
 #include <cmath>
 
 class QWidget;
@@ -24,6 +25,11 @@ public:
     double twips_per_pixel() const { return twips_per_pixel_; }
     int from_twips(double twips) const { return static_cast<int>(std::lround(twips / twips_per_pixel_)); }
     int from_base(double pixels) const { return from_twips(pixels * base_twips_per_pixel); }
+    /// The pixels from one height of a column to another, both in pixels of the base size. The edges are rounded each
+    /// by itself, so that columns of different parts end together.
+    int span(double from, double to) const { return from_base(to) - from_base(from); }
+    /// A line between cells, and an outline.
+    int line() const { return std::max(1, from_base(1)); }
     QSize from_twips(double width, double height) const { return {from_twips(width), from_twips(height)}; }
 
 private:

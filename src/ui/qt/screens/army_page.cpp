@@ -1,212 +1,331 @@
 #include "ui/qt/screens/army_page.h"
 
 #include "army/modifier_options.h"
+#include "ui/qt/look/ink.h"
 #include "ui/qt/screens/misc_panel.h"
 #include "ui/qt/widgets/binding.h"
 #include "ui/qt/widgets/caption_frame.h"
+#include "ui/qt/widgets/entry_box.h"
+#include "ui/qt/widgets/number_reading.h"
 #include "ui/qt/widgets/option_choice.h"
+#include "ui/qt/widgets/table.h"
 #include "ui/qt/widgets/text.h"
 #include "ui/qt/widgets/value_box.h"
 
 #include <QBoxLayout>
 #include <QGridLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 
 #include <algorithm>
-#include <utility>
+#include <array>
 
 namespace warhost {
 
 namespace {
 
-constexpr int row_height = 20; // pixels of the base size, as all lengths here
-constexpr int gap = 4;
-constexpr int result_width = 50;
-constexpr int narrow_result_width = 43; // in frames side by side, whose values have one digit
-constexpr int left_width = 188;
-constexpr int soldiers_width = 56;
-constexpr int ratio_width = 54;
-constexpr int bonus_width = 24;
+// Pixels of the base size. Heights count from the top of the screen.
+constexpr int field_height = 20;
+constexpr int head_box_height = 18;
+constexpr int row_height = 18;
+constexpr int left_width = 186;
+constexpr int column_gap = 8;
+constexpr int middle_left = left_width + column_gap;
+constexpr int middle_width = 222;
+constexpr int result_width = 48;
+constexpr int narrow_result_width = 40; // in frames side by side
+constexpr int units_top = 24;
+constexpr int units_end = 246;
+constexpr int ratio_end = 264;
+constexpr int magic_top = 276;
+constexpr int quality_top = 402;
+constexpr int experience_top = 510;
+constexpr int columns_end = 588;
+constexpr int armor_top = 132;
+constexpr int attack_top = 276;
+constexpr int pair_top = 438;
 
 constexpr int options_of(int category)
 {
     return static_cast<int>(std::ranges::count(options, category, &Option::category));
 }
 
-// In the middle column stand four rows of frames, with so many options one under the other.
-constexpr int middle_frames = 4;
-constexpr int middle_options = options_of(0) + options_of(2) + options_of(3) + std::max(options_of(7), options_of(4));
+/// Where the section of a category with so many rows ends.
+constexpr int end_of(int top, int rows) { return top + CaptionFrame::contents_top + rows * row_height; }
+static_assert(end_of(pair_top, std::max(options_of(4), options_of(7))) == columns_end);
 
 } // namespace
 
-ArmyPage::ArmyPage(ArmyControls& controls, Scale const& scale, QSize content, std::function<bool()> const& add_misc_row,
-                   std::function<void(int)> const& show_help, QWidget* parent)
+ArmyPage::ArmyPage(ArmyControls& controls, Reading const& level_reading, Scale const& scale, QSize content,
+                   std::function<bool()> const& add_misc_row, std::function<void(int)> const& show_help,
+                   QWidget* parent)
     : ScreenArea(parent),
       controls_(controls),
-      make_(surface(), scale, row_height)
+      make_(surface(), scale)
 {
     name_after(controls.FrameArmy, *this);
-    Frame::Box const& misc = controls.FrameMisc.box();
-    int const top = scale.from_twips(misc.Top);
-    int const middle_width = scale.from_twips(misc.Left) - make_.pixels(left_width) - 2 * make_.pixels(gap);
-    int const frame_extra = make_.frame_margin() + make_.pixels(row_height);
-    option_height_ = (content.height() - top - (middle_frames - 1) * make_.pixels(gap) - middle_frames * frame_extra) /
-                     middle_options;
-
     auto* const content_area = new QWidget{&surface()};
     content_area->setFixedSize(content);
     auto* const screen = new QGridLayout{content_area};
     screen->setContentsMargins(0, 0, 0, 0);
-    screen->setHorizontalSpacing(make_.pixels(gap));
-    screen->setVerticalSpacing(0);
-    screen->setRowMinimumHeight(0, top);
+    screen->setSpacing(0);
+    screen->setRowMinimumHeight(0, make_.pixels(units_top));
     screen->setRowStretch(1, 1);
     screen->setColumnMinimumWidth(0, make_.pixels(left_width));
-    screen->setColumnMinimumWidth(1, middle_width);
-    screen->setColumnStretch(2, 1); // the misc panel's room
-    screen->addLayout(top_line(), 0, 0, 1, 3);
-    screen->addLayout(left_column(), 1, 0);
-    screen->addLayout(middle_column(), 1, 1);
+    screen->setColumnMinimumWidth(1, make_.span(left_width, middle_left));
+    screen->setColumnMinimumWidth(2, make_.span(middle_left, middle_left + middle_width));
+    screen->setColumnStretch(3, 1); // the misc panel's room
+    screen->addLayout(top_line(scale), 0, 0, 1, 4, Qt::AlignTop);
+    screen->addLayout(left_column(level_reading), 1, 0);
+    screen->addLayout(middle_column(), 1, 2);
     make_.set_tab_order();
 
     misc_panel_ = new MiscPanel{controls, scale, add_misc_row, show_help, &surface()};
 }
 
-QLayout* ArmyPage::top_line()
+/// The total ends where the values of the misc panel do.
+QLayout* ArmyPage::top_line(Scale const& scale)
 {
-    auto* const line = make_.line(6);
-    auto* const name = make_.text_box(controls_.txtArmyName, "Name of army", 260);
+    auto* const line = make_.row(4);
+    auto* const name = make_.name_box(controls_.txtArmyName, "Name of army", 252);
     name->setPlaceholderText("Type a name, or load an army");
     add_labelled(*line, make_.label(controls_.Label(0)), name);
-    line->addWidget(make_.button(controls_.cmdSaveArmy, "Save army", 60));
-    line->addWidget(make_.button(controls_.cmdLoadArmy, "Load army", 60));
+    line->addSpacing(make_.pixels(4));
+    line->addWidget(make_.button(controls_.cmdSaveArmy, "Save army", 56, field_height));
+    line->addWidget(make_.button(controls_.cmdLoadArmy, "Load army", 56, field_height));
     line->addStretch();
-    add_labelled(*line, make_.label(controls_.Label4),
-                 make_.number_box(controls_.txtTotal, "Total of modifiers, this screen only", 60));
+    auto* const total = make_.number_box(controls_.txtTotal, "Total of modifiers, this screen only", 49);
+    total->set_type(type::total);
+    add_labelled(*line, make_.label(controls_.Label4), total);
+    Place const& value = controls_.cmbMisc(0).place;
+    int const end = scale.from_twips(controls_.FrameMisc.box().Left + double{value.Left} + double{value.Width});
+    line->setContentsMargins(0, 0, surface().findChild<QWidget*>()->width() - end, 0);
     return line;
 }
 
-QLayout* ArmyPage::left_column()
+QLayout* ArmyPage::left_column(Reading const& level_reading)
 {
     auto* const column = new QVBoxLayout;
-    column->setSpacing(make_.pixels(gap));
-    column->addWidget(units(), 1);
+    column->setSpacing(0);
+    QWidget* const units_frame = units();
+    units_frame->setFixedHeight(make_.span(units_top, units_end));
+    column->addWidget(units_frame);
     column->addLayout(ratio_line());
-    column->addWidget(category(5, controls_.Frame5, result_width));
-    column->addWidget(category(1, controls_.Frame1, result_width, &controls_.Label(7)));
-    column->addWidget(experience());
+    column->addSpacing(make_.span(ratio_end, magic_top));
+    column->addWidget(category(5, controls_.Frame5, magic_top, result_width));
+    column->addSpacing(make_.span(end_of(magic_top, options_of(5)), quality_top));
+    column->addWidget(category(1, controls_.Frame1, quality_top, result_width, &controls_.Label(7)));
+    column->addSpacing(make_.span(end_of(quality_top, options_of(1) + 1), experience_top));
+    column->addWidget(experience(level_reading));
+    column->addStretch();
     return column;
 }
 
 QLayout* ArmyPage::middle_column()
 {
+    struct Section {
+        int index, top;
+        Frame& frame;
+    };
+    std::array const sections{Section{0, units_top, controls_.FrameDiscipline}, Section{2, armor_top, controls_.Frame2},
+                              Section{3, attack_top, controls_.Frame3}};
     auto* const column = new QVBoxLayout;
-    column->setSpacing(make_.pixels(gap));
-    for (auto const& [index, frame] :
-         {std::pair{0, &controls_.FrameDiscipline}, {2, &controls_.Frame2}, {3, &controls_.Frame3}}) {
-        column->addWidget(category(index, *frame, result_width));
-        column->addStretch();
+    column->setSpacing(0);
+    int end = units_top;
+    for (auto const& [index, top, frame] : sections) {
+        column->addSpacing(make_.span(end, top));
+        column->addWidget(category(index, frame, top, result_width));
+        end = end_of(top, options_of(index));
     }
-    auto* const pair = make_.line(gap);
-    pair->addWidget(category(7, controls_.Frame11, narrow_result_width), 15);
-    pair->addWidget(category(4, controls_.Frame4, narrow_result_width), 16); // the longer caption
+    column->addSpacing(make_.span(end, pair_top));
+    auto* const pair = make_.row(column_gap);
+    pair->addWidget(category(7, controls_.Frame11, pair_top, narrow_result_width), 102);
+    pair->addWidget(category(4, controls_.Frame4, pair_top, narrow_result_width), 112);
     column->addLayout(pair);
+    column->addStretch();
     return column;
 }
 
 QWidget* ArmyPage::units()
 {
+    constexpr int table_top = units_top + CaptionFrame::contents_top;
+    constexpr int head = 17; // each height with the line below
+    constexpr int row = 20;
     CaptionFrame* const frame = make_.frame(controls_.FrameUnits);
-    auto* const grid = new QGridLayout{frame};
-    grid->setContentsMargins(0, frame->caption_height(), 0, 0);
-    grid->setHorizontalSpacing(make_.pixels(gap));
-    grid->setVerticalSpacing(0);
-    grid->setColumnStretch(1, 1);
-    auto* const heads = new QHBoxLayout;
-    heads->addWidget(make_.label(controls_.Label1));
-    heads->addStretch();
-    heads->addWidget(make_.label(controls_.Label2));
-    grid->addLayout(heads, 0, 1, 1, 2);
+    auto* const contents = new QVBoxLayout{frame};
+    contents->setContentsMargins(0, make_.span(units_top, table_top), 0, 0);
+    auto* const table = new Table{make_.line()};
+    contents->addWidget(table, 0, Qt::AlignTop);
+    QGridLayout& grid = table->grid();
+    grid.setColumnMinimumWidth(0, make_.pixels(24));
+    grid.setColumnStretch(1, 1);
+    grid.setColumnMinimumWidth(2, make_.pixels(60));
+    int const side = make_.pixels(5);
+    int const number_side = make_.pixels(7);
 
-    for (int row = 0; row < unit_rows; ++row) {
-        grid->setRowStretch(row + 1, 1);
-        QString const unit = QString{"Unit %1, "}.arg(row + 1);
-        auto* const number = make_.label(controls_.Label(row < 6 ? row + 1 : row + 17)); // 1 to 6, 23, 24
-        auto* const type = make_.text_box(controls_.txtUnitType(row), unit + "type");
-        number->setBuddy(type);
-        grid->addWidget(number, row + 1, 0);
-        grid->addWidget(type, row + 1, 1);
-        grid->addWidget(make_.number_box(controls_.txtUnitNum(row), unit + "soldiers", soldiers_width), row + 1, 2);
+    auto* const heads = make_.row(4);
+    heads->setContentsMargins(make_.pixels(30), 0, number_side, 0);
+    for (TextLabel* const field : {&controls_.Label1, &controls_.Label2}) {
+        QLabel* const label = make_.label(*field);
+        set_ink(*label, Ink::dim);
+        if (field == &controls_.Label2) heads->addStretch();
+        heads->addWidget(label);
     }
+    grid.addLayout(heads, 0, 0, 1, 3);
+    int const top = table_top + 1;
+    grid.setRowMinimumHeight(0, make_.span(top, top + head) - make_.line());
+
+    for (int k = 0; k < unit_rows; ++k) {
+        int const from = top + head + k * row;
+        grid.setRowMinimumHeight(k + 1, make_.span(from, from + row) - make_.line());
+        QString const unit = QString{"Unit %1, "}.arg(k + 1);
+        auto* const number = make_.label(controls_.Label(k < 6 ? k + 1 : k + 17)); // 1 to 6, 23, 24
+        number->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+        number->setContentsMargins(side, 0, 0, 0);
+        auto* const type = make_.name_cell(controls_.txtUnitType(k), unit + "type");
+        auto* const soldiers = make_.number_cell(controls_.txtUnitNum(k), unit + "soldiers");
+        soldiers->set_reading(whole_number<TextToLong>);
+        number->setBuddy(type);
+        grid.addWidget(number, k + 1, 0);
+        grid.addWidget(type, k + 1, 1);
+        grid.addWidget(soldiers, k + 1, 2);
+        auto const dim_when_unused = [number, soldiers, &name = controls_.txtUnitType(k),
+                                      &count = controls_.txtUnitNum(k)] {
+            Ink const ink = name.text().empty() && TextToLong(count.text()) == 0 ? Ink::dim : Ink::text;
+            set_ink(*number, ink);
+            set_ink(*soldiers, ink);
+        };
+        also_show(controls_.txtUnitType(k), dim_when_unused);
+        also_show(controls_.txtUnitNum(k), dim_when_unused);
+    }
+    propose_units();
+
     auto* const total_label = make_.label(controls_.Label3);
-    auto* const total = make_.number_box(controls_.txtTotalNo, "Total number of soldiers", soldiers_width);
+    total_label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    total_label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+    total_label->setContentsMargins(0, 0, side, 0);
+    auto* const total = make_.number_cell(controls_.txtTotalNo, "Total number of soldiers");
+    total->set_type(type::caption);
+    total->set_reading(whole_number<TextToLong>);
     total_label->setBuddy(total);
-    grid->setRowStretch(unit_rows + 1, 1);
-    grid->addWidget(total_label, unit_rows + 1, 0, 1, 2, Qt::AlignRight);
-    grid->addWidget(total, unit_rows + 1, 2);
+    int const foot = top + head + unit_rows * row;
+    grid.setRowMinimumHeight(unit_rows + 1, make_.span(foot, foot + row) - make_.line());
+    grid.addWidget(total_label, unit_rows + 1, 0, 1, 2);
+    grid.addWidget(total, unit_rows + 1, 2);
     return frame;
+}
+
+/// An example stands in the first row as long as no row is used.
+void ArmyPage::propose_units()
+{
+    auto* const first = surface().findChild<EntryBox*>(to_qt(controls_.txtUnitType(0).name()));
+    auto const propose = [this, first] {
+        bool used = false;
+        for (int row = 0; row < unit_rows; ++row) {
+            used =
+                used || !controls_.txtUnitType(row).text().empty() || TextToLong(controls_.txtUnitNum(row).text()) != 0;
+        }
+        first->setPlaceholderText(used ? QString{} : QString{"Pikes, riders"});
+    };
+    for (int row = 0; row < unit_rows; ++row) {
+        also_show(controls_.txtUnitType(row), propose);
+        also_show(controls_.txtUnitNum(row), propose);
+    }
 }
 
 QLayout* ArmyPage::ratio_line()
 {
-    auto* const line = make_.line(gap);
-    line->setContentsMargins(make_.pixels(gap), 0, make_.pixels(gap), 0);
-    line->addWidget(make_.label(controls_.Label12));
-    line->addWidget(make_.label(controls_.lblRatio, ratio_width));
+    auto* const line = make_.row(8);
+    QLabel* const bonus = make_.label(controls_.lblRatioBonus, 0, type::caption);
+    bonus->setAlignment(Qt::AlignRight);
+    auto* const caption = make_.label(controls_.Label12);
+    caption->setFixedHeight(make_.span(units_end, ratio_end));
+    line->setContentsMargins(0, 0, make_.pixels(5), 0);
+    line->addWidget(caption);
+    line->addWidget(make_.label(controls_.lblRatio, 48));
     line->addWidget(make_.label(controls_.Label14));
-    line->addWidget(make_.label(controls_.lblRatioBonus, bonus_width));
+    line->addWidget(bonus, 1);
     return line;
 }
 
-QWidget* ArmyPage::category(int index, Frame& frame, int width, TextLabel* note)
+ValueBox* ArmyPage::result_box(ComboBox& field, QString const& spoken, int width, int height)
+{
+    ValueBox* const made = make_.value_box(field, spoken, width, height);
+    made->entry().set_reading(whole_number<TextToLong>);
+    made->entry().set_type(type::caption);
+    also_show(field, [&field, made] {
+        set_ink(made->entry(), field.list_size() > 0 ? Ink::text : Ink::dim);
+        made->update();
+    });
+    return made;
+}
+
+QWidget* ArmyPage::category(int index, Frame& frame, int top, int width, TextLabel* note)
 {
     CaptionFrame* const box = make_.frame(frame);
+    box->keep_free(make_.pixels(width));
     auto* const column = new QVBoxLayout{box};
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     QString const category_name = to_qt(frame.caption());
-    column->addWidget(make_.value_box(controls_.cmbOpt(index), category_name + " result", width), 0, Qt::AlignRight);
+    int const box_height = make_.span(top, top + head_box_height);
+    column->addWidget(result_box(controls_.cmbOpt(index), category_name + " result", width, box_height), 0,
+                      Qt::AlignRight);
+    int at = top + CaptionFrame::contents_top;
+    column->addSpacing(make_.span(top, at) - box_height);
+    auto const next_height = [&] {
+        at += row_height;
+        return make_.span(at - row_height, at);
+    };
     if (note != nullptr) {
         QLabel* const label = make_.label(*note);
-        label->setFixedHeight(option_height_);
+        set_ink(*label, Ink::dim);
+        label->setFixedHeight(next_height());
         column->addWidget(label);
     }
     for (auto const& row : options) {
         if (row.category != index) continue;
         column->addWidget(
-            make_.option(controls_.opt(row.index), category_name + ": " + to_qt(row.caption), box, option_height_));
+            make_.option(controls_.opt(row.index), category_name + ": " + to_qt(row.caption), box, next_height()));
     }
     column->addStretch();
     return box;
 }
 
-QWidget* ArmyPage::experience()
+QWidget* ArmyPage::experience(Reading const& level_reading)
 {
     CaptionFrame* const frame = make_.frame(controls_.Frame10);
+    frame->setFixedHeight(make_.span(experience_top, columns_end));
     auto* const lines = new QVBoxLayout{frame};
-    lines->setContentsMargins(0, frame->caption_height(), 0, 0);
+    lines->setContentsMargins(0, make_.pixels(26), 0, 0);
     lines->setSpacing(0);
 
     auto* const first = new QHBoxLayout;
-    auto* const result = make_.value_box(controls_.cmbOpt(6), "Experience result", 0);
+    auto* const result = make_.value_box(controls_.cmbOpt(6), "Experience result", 0, 0);
     result->setParent(this);
     result->hide(); // a file may fill it, but nobody sees it
     auto* const level_label = make_.label(controls_.Label15);
-    auto* const level = make_.value_box(controls_.cmbLevel, "Average troop level", 60);
+    auto* const level = make_.value_box(controls_.cmbLevel, "Average troop level", 52, make_.pixels(field_height));
+    level->entry().set_reading(level_reading);
     level_label->setBuddy(level);
     first->addWidget(level_label);
     first->addStretch();
     first->addWidget(level);
     lines->addLayout(first);
+    lines->addStretch();
 
-    auto* const second = make_.line(gap);
-    second->addWidget(make_.label(controls_.Label16));
-    second->addWidget(make_.label(controls_.lblOtherLevel, 64));
+    auto* const second = make_.row(8);
+    second->setContentsMargins(0, 0, make_.pixels(5), 0);
+    auto* const versus = make_.label(controls_.Label16);
+    versus->setFixedHeight(make_.pixels(row_height));
+    auto* const bonus = make_.label(controls_.lblLevelBonus, 0, type::caption);
+    bonus->setAlignment(Qt::AlignRight);
+    auto* const other = make_.label(controls_.lblOtherLevel, 64);
+    other->setAlignment(Qt::AlignCenter);
+    second->addWidget(versus);
+    second->addWidget(other);
     second->addWidget(make_.label(controls_.Label18));
-    second->addWidget(make_.label(controls_.lblLevelBonus, bonus_width));
-    second->addStretch();
+    second->addWidget(bonus, 1);
     lines->addLayout(second);
     return frame;
 }

@@ -18,24 +18,29 @@ class ArmyPage : public ScreenArea {
     Q_OBJECT
 
 public:
-    /// content: the part of the screen that is laid out, in pixels. For the other two see MiscPanel.
-    ArmyPage(ArmyControls& controls, Scale const& scale, QSize content, std::function<bool()> const& add_misc_row,
-             std::function<void(int)> const& show_help, QWidget* parent);
+    using Reading = std::function<QString(QString const&)>;
+
+    /// level_reading: what a text counts as for the troop level, in digits. content: the part of the screen that is
+    /// laid out, in pixels. For the other two see MiscPanel.
+    ArmyPage(ArmyControls& controls, Reading const& level_reading, Scale const& scale, QSize content,
+             std::function<bool()> const& add_misc_row, std::function<void(int)> const& show_help, QWidget* parent);
 
     MiscPanel& misc_panel() const { return *misc_panel_; }
 
 private:
-    QLayout* top_line();
-    QLayout* left_column();
+    QLayout* top_line(Scale const& scale);
+    QLayout* left_column(Reading const& level_reading);
     QLayout* middle_column();
     QWidget* units();
     QLayout* ratio_line();
-    QWidget* category(int index, Frame& frame, int width, TextLabel* note = nullptr);
-    QWidget* experience();
+    /// top: of the section, in pixels of the base size.
+    QWidget* category(int index, Frame& frame, int top, int width, TextLabel* note = nullptr);
+    QWidget* experience(Reading const& level_reading);
+    ValueBox* result_box(ComboBox& field, QString const& spoken, int width, int height);
+    void propose_units();
 
     ArmyControls& controls_;
     WidgetMaker make_;
-    int option_height_ = 0; // the same in all frames
     MiscPanel* misc_panel_;
 };
 

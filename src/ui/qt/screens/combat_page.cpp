@@ -1,34 +1,56 @@
 #include "ui/qt/screens/combat_page.h"
 
 #include "army/armies.h"
+#include "ui/qt/look/ink.h"
+#include "ui/qt/look/page_style.h"
+#include "ui/qt/screens/description_sheet.h"
+#include "ui/qt/screens/side_panel.h"
+#include "ui/qt/screens/winner_band.h"
 #include "ui/qt/widgets/binding.h"
 #include "ui/qt/widgets/caption_frame.h"
-#include "ui/qt/widgets/text.h"
+#include "ui/qt/widgets/elided_label.h"
+#include "ui/qt/widgets/entry_box.h"
+#include "ui/qt/widgets/number_reading.h"
+#include "ui/qt/widgets/side_mark.h"
 
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
-#include <QTextEdit>
 
 namespace warhost {
 
 namespace {
 
-constexpr int row_height = 22; // pixels of the base size, as all lengths here
-constexpr int top_margin = 6;
-constexpr int close_gap = 2;
+// Pixels of the base size. Heights count from the top of the screen.
+constexpr int field_height = 20;
+constexpr int button_height = 22;
 constexpr int gap = 4;
-constexpr int line_gap = 6;
-constexpr int frame_gap = 8;
-constexpr int left_width = 568;
-constexpr int label_width = 124; // of the lines whose boxes stand one under the other
-constexpr int box_width = 40;
-constexpr int number_width = 58;
-constexpr int roll_width = 44;
-constexpr int apply_width = 116;
+constexpr int group_gap = 8;
+constexpr int column_width = 264;
+constexpr int column_gap = 20;
+constexpr int number_width = 56;
+constexpr int result_width = 96;
+constexpr int result_height = 30;
+constexpr int label_width = 128; // of the lines whose boxes stand one under the other
+constexpr int box_width = 44;
+constexpr int roll_width = 48;
+
+constexpr int totals_top = 8;
+constexpr int total_pitch = 24;
+constexpr int roll_all_top = 60;
+constexpr int roll_all_end = 90;
+constexpr int roll_top = 100;
+constexpr int roll_end = 224;
+constexpr int casualties_top = 238;
+constexpr int loser_top = 266;
+constexpr int victor_roll_top = 290;
+constexpr int victor_share_top = 314;
+constexpr int sides_top = 342;
+constexpr int sides_end = 565;
+constexpr int simulate_top = 578;
+constexpr int screen_end = 600;
 
 QString spoken_side(int Index) { return to_qt(side_name(Index)); }
 
@@ -37,199 +59,297 @@ QString spoken_side(int Index) { return to_qt(side_name(Index)); }
 CombatPage::CombatPage(CombatControls& controls, Scale const& scale, QSize content, QWidget* parent)
     : ScreenArea(parent),
       controls_(controls),
-      make_(surface(), scale, row_height)
+      make_(surface(), scale)
 {
     name_after(controls.FrameCombat, *this);
     auto* const content_area = new QWidget{&surface()};
     content_area->setFixedSize(content);
-    auto* const screen = new QGridLayout{content_area};
-    screen->setContentsMargins(0, make_.pixels(top_margin), 0, 0);
-    screen->setSpacing(make_.pixels(frame_gap));
-    screen->setColumnMinimumWidth(0, make_.pixels(left_width));
-    screen->setColumnStretch(1, 1);
-    screen->setRowStretch(2, 1);
-    screen->addLayout(totals(), 0, 0);
-    screen->addWidget(battle_roll(), 1, 0);
-    screen->addWidget(casualties(), 2, 0);
-    screen->addWidget(description(), 0, 1, 3, 1);
-    screen->addWidget(make_.button(controls.cmdSimulate, "Simulate N battles", 150), 3, 0, Qt::AlignLeft);
+    auto* const screen = new QHBoxLayout{content_area};
+    screen->setContentsMargins(0, 0, 0, 0);
+    screen->setSpacing(make_.pixels(column_gap));
+    auto* const left = new QVBoxLayout;
+    left->setSpacing(0);
+    left->addSpacing(make_.pixels(totals_top));
+    left->addLayout(totals());
+    left->addSpacing(make_.span(roll_all_end, roll_top));
+    left->addWidget(battle_roll());
+    left->addSpacing(make_.span(roll_end, casualties_top));
+    left->addWidget(casualties());
+    left->addStretch();
+    QWidget* const sheet = description();
+    left->addWidget(make_.button(controls.cmdSimulate, "Simulate N battles", column_width, button_height));
+    left->addSpacing(content.height() - make_.pixels(screen_end));
+    screen->addLayout(left);
+    screen->addWidget(sheet, 0, Qt::AlignTop);
+    screen->addStretch();
     make_.set_tab_order();
+    follow_battle();
 }
 
 QLayout* CombatPage::totals()
 {
     auto* const grid = new QGridLayout;
-    grid->setHorizontalSpacing(make_.pixels(gap));
-    grid->setVerticalSpacing(make_.pixels(gap));
-    grid->setColumnStretch(2, 1);
+    grid->setSpacing(0);
+    grid->setColumnMinimumWidth(0, make_.pixels(column_width));
+    grid->setColumnMinimumWidth(1, make_.pixels(column_gap));
+    grid->setColumnMinimumWidth(2, make_.pixels(column_width));
     for (int const Index : {0, 1}) {
+        auto const k = static_cast<std::size_t>(Index);
+        auto* const line = make_.row(gap);
         auto* const caption = make_.label(Index == 0 ? controls_.Label5 : controls_.Label6);
-        auto* const total =
+        totals_.at(k) =
             make_.number_box(controls_.txtTotalMod(Index), spoken_side(Index) + ", total modifier", number_width);
-        caption->setBuddy(total);
-        grid->addWidget(caption, Index, 0);
-        grid->addWidget(total, Index, 1);
+        totals_.at(k)->set_reading(whole_number<TextToInt>);
+        caption->setBuddy(totals_.at(k));
+        line->addWidget(caption);
+        line->addStretch();
+        line->addWidget(totals_.at(k));
+        auto* const army = make_.row(0);
+        names_.at(k) = new ElidedLabel;
+        names_.at(k)->setFont(make_.font(type::name));
+        set_ink(*names_.at(k), ink_of_side(Index));
+        army->addWidget(new SideMark{Index});
+        army->addWidget(names_.at(k), 1);
+        grid->addLayout(line, Index, 0);
+        grid->addLayout(army, Index, 2);
+        double const top = totals_top + Index * total_pitch;
+        double const end = Index == 0 ? top + total_pitch : roll_all_top;
+        grid->setRowMinimumHeight(Index, make_.span(top, top + field_height));
+        line->setContentsMargins(0, 0, 0, make_.span(top + field_height, end));
+        army->setContentsMargins(0, 0, 0, make_.span(top + field_height, end));
     }
-    grid->addWidget(make_.button(controls_.cmdRollAll, "Roll all"), 2, 0, 1, 2);
+    roll_all_ = make_.button(controls_.cmdRollAll, "Roll all", column_width, roll_all_end - roll_all_top);
+    roll_all_->setFont(make_.font(type::next_step));
+    roll_all_->setFixedHeight(make_.span(roll_all_top, roll_all_end));
+    grid->addWidget(roll_all_, 2, 0);
     return grid;
 }
 
 QWidget* CombatPage::battle_roll()
 {
-    CaptionFrame* const frame = make_.frame(controls_.Frame6);
-    auto* const grid = new QGridLayout{frame};
-    grid->setContentsMargins(0, frame->caption_height() + make_.pixels(close_gap), 0, 0);
-    grid->setHorizontalSpacing(make_.pixels(gap));
-    grid->setVerticalSpacing(make_.pixels(line_gap));
-    grid->setColumnStretch(5, 1);
-    grid->setColumnMinimumWidth(2, make_.pixels(line_gap)); // between the sides
+    constexpr int rolls_top = 126;
+    constexpr int results_top = 152;
+    constexpr int band_top = 188;
+    roll_frame_ = make_.frame(controls_.Frame6);
+    roll_frame_->setFixedHeight(make_.span(roll_top, roll_end));
+    auto* const column = new QVBoxLayout{roll_frame_};
+    column->setContentsMargins(0, make_.span(roll_top, rolls_top), 0, 0);
+    column->setSpacing(0);
+    auto* const rolls = make_.row(column_gap);
     for (int const Index : {0, 1}) {
-        grid->addWidget(make_.button(controls_.cmdRoll(Index), "Roll for " + spoken_side(Index)), 0, 3 * Index, 1, 2);
+        rolls->addWidget(
+            make_.button(controls_.cmdRoll(Index), "Roll for " + spoken_side(Index), column_width, button_height));
     }
-    for (int const Index : {0, 1}) {
-        auto* const caption = make_.label(controls_.Label(8 + Index));
-        auto* const result =
-            make_.number_box(controls_.txtResult(Index), spoken_side(Index) + ", result", number_width);
-        caption->setBuddy(result);
-        grid->addWidget(caption, 1, 3 * Index);
-        grid->addWidget(result, 1, 3 * Index + 1);
-    }
-    grid->addLayout(winner_line(), 2, 0, 1, 6);
-    return frame;
+    auto* const results = make_.row(column_gap);
+    for (int const Index : {0, 1}) results->addLayout(result(Index));
+    column->addLayout(rolls);
+    column->addSpacing(make_.span(rolls_top, results_top) - make_.pixels(button_height));
+    column->addLayout(results);
+    column->addStretch();
+    band_ = new WinnerBand{controls_, make_};
+    band_->setFixedHeight(make_.span(band_top, roll_end));
+    column->addWidget(band_);
+    return roll_frame_;
 }
 
-QLayout* CombatPage::winner_line()
+QLayout* CombatPage::result(int Index)
 {
-    auto* const line = make_.line(gap);
-    line->addWidget(make_.label(controls_.Label7(0)));
-    auto* const name = make_.label(controls_.lblWinner, 52);
-    auto* const margin = make_.label(controls_.lblWinBy, 44);
-    for (QLabel* const label : {name, margin}) {
-        QFont bold = label->font();
-        bold.setBold(true);
-        label->setFont(bold);
-        label->setAlignment(Qt::AlignCenter);
-    }
-    line->addWidget(name);
-    line->addWidget(make_.label(controls_.Label8));
-    line->addWidget(margin);
-    line->addWidget(make_.label(controls_.Label9));
+    constexpr int digits_right = 5; // beside the margin that every box has
+    auto* const line = make_.row(0);
+    auto* const caption = make_.label(controls_.Label(8 + Index));
+    EntryBox* const box = make_.number_box(controls_.txtResult(Index), spoken_side(Index) + ", result", result_width);
+    box->set_type(type::result);
+    box->set_reading(whole_number<TextToInt>);
+    box->setTextMargins(0, 0, make_.pixels(digits_right), 0);
+    box->setFixedHeight(make_.pixels(result_height));
+    caption->setBuddy(box);
+    line->addWidget(new SideMark{Index});
+    line->addWidget(caption);
     line->addStretch();
+    line->addWidget(box);
+    results_.at(static_cast<std::size_t>(Index)) = box;
     return line;
 }
 
 QWidget* CombatPage::casualties()
 {
-    CaptionFrame* const frame = make_.frame(controls_.Frame7);
-    auto* const column = new QVBoxLayout{frame};
-    column->setContentsMargins(0, frame->caption_height() + make_.pixels(close_gap), 0, 0);
-    column->setSpacing(make_.pixels(line_gap));
-    column->addLayout(loser_line());
-    column->addLayout(victor_roll_line());
-    column->addLayout(victor_percent_line());
-    auto* const sides = make_.line(frame_gap);
-    sides->addWidget(side(0), 1);
-    sides->addWidget(side(1), 1);
+    casualty_frame_ = make_.frame(controls_.Frame7);
+    casualty_frame_->setFixedHeight(make_.span(casualties_top, sides_end));
+    auto* const column = new QVBoxLayout{casualty_frame_};
+    constexpr int first_top = casualties_top + CaptionFrame::contents_top;
+    column->setContentsMargins(0, make_.span(casualties_top, first_top), 0, 0);
+    column->setSpacing(0);
+    auto const add = [&](QLayout* line, int top, int end) {
+        auto* const holder = new QWidget;
+        line->setContentsMargins(0, 0, 0, 0);
+        holder->setLayout(line);
+        holder->setFixedHeight(make_.span(top, end));
+        column->addWidget(holder);
+    };
+    add(loser_line(), first_top, victor_roll_top);
+    add(victor_roll_line(), victor_roll_top, victor_roll_top + field_height);
+    column->addSpacing(make_.span(victor_roll_top + field_height, victor_share_top));
+    add(victor_percent_line(), victor_share_top, victor_share_top + field_height);
+    column->addSpacing(make_.span(victor_share_top + field_height, sides_top));
+    auto* const sides = make_.row(column_gap);
+    for (int const Index : {0, 1}) {
+        auto* const side = new SidePanel{controls_, make_, Index, sides_top, &surface()};
+        sides_.at(static_cast<std::size_t>(Index)) = side;
+        sides->addWidget(side, 1);
+    }
     column->addLayout(sides, 1);
-    return frame;
+    return casualty_frame_;
 }
 
 QLayout* CombatPage::loser_line()
 {
-    auto* const line = make_.line(gap);
-    add_labelled(*line, make_.label(controls_.Label(16), label_width),
-                 make_.number_box(controls_.txtLoserCasualty, "Loser's casualties, percent", box_width));
+    constexpr int note_width = 308;
+    auto* const line = make_.row(gap);
+    auto* const percentage = make_.number_box(controls_.txtLoserCasualty, "Loser's casualties, percent", box_width);
+    percentage->set_reading(whole_number<TextToInt>);
+    add_labelled(*line, make_.label(controls_.Label(16), label_width), percentage);
     line->addWidget(make_.label(controls_.Label(18)));
     line->addStretch();
-    auto* const note = make_.label(controls_.Label(25), 310);
-    note->setWordWrap(true);
-    note->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    line->addWidget(note);
+    note_ = make_.label(controls_.Label(25), note_width);
+    note_->setWordWrap(true);
+    note_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Ignored);
+    note_->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    line->addWidget(note_);
     return line;
 }
 
 QLayout* CombatPage::victor_roll_line()
 {
-    auto* const line = make_.line(gap);
-    add_labelled(*line, make_.label(controls_.Label(10), label_width),
-                 make_.number_box(controls_.txtVictorCasRoll, "Victor's casualty roll", box_width));
-    line->addWidget(make_.button(controls_.cmdRollCasualty, "Roll for the victor's casualties", roll_width));
-    line->addSpacing(make_.pixels(gap));
-    add_labelled(*line, make_.label(controls_.Label(15)),
-                 make_.number_box(controls_.txtCasRollBonus, "Bonus to the victor's casualty roll", box_width));
-    line->addSpacing(make_.pixels(gap));
-    line->addWidget(make_.check_box(controls_.chkPlus5, "+5 to the victor's casualty roll"));
-    line->addSpacing(make_.pixels(gap));
-    line->addWidget(make_.check_box(controls_.chkMinus5, "-5 to the victor's casualty roll"));
+    auto* const line = make_.row(gap);
+    auto* const roll = make_.number_box(controls_.txtVictorCasRoll, "Victor's casualty roll", box_width);
+    roll->set_reading(whole_number<TextToInt>);
+    add_labelled(*line, make_.label(controls_.Label(10), label_width), roll);
+    roll_casualty_ =
+        make_.button(controls_.cmdRollCasualty, "Roll for the victor's casualties", roll_width, field_height);
+    line->addWidget(roll_casualty_);
+    line->addSpacing(make_.pixels(group_gap));
+    auto* const bonus = make_.number_box(controls_.txtCasRollBonus, "Bonus to the victor's casualty roll", 36);
+    bonus->set_reading(whole_number<TextToInt>);
+    add_labelled(*line, make_.label(controls_.Label(15)), bonus);
+    line->addSpacing(make_.pixels(group_gap));
+    auto* const plus = make_.check_box(controls_.chkPlus5, "+5 to the victor's casualty roll");
+    line->addWidget(plus);
+    line->addSpacing(make_.pixels(group_gap));
+    auto* const minus = make_.check_box(controls_.chkMinus5, "-5 to the victor's casualty roll");
+    line->addWidget(minus);
     line->addStretch();
+    follow_box(controls_.chkPlus5, plus);
+    follow_box(controls_.chkMinus5, minus);
     return line;
 }
 
 QLayout* CombatPage::victor_percent_line()
 {
-    auto* const line = make_.line(gap);
-    line->addWidget(make_.label(controls_.Label(17)));
-    auto* const range = make_.label(controls_.lblCasRange, 52);
+    auto* const line = make_.row(gap);
+    line->addWidget(make_.label(controls_.Label(17), label_width));
+    auto* const range = make_.label(controls_.lblCasRange, 57, type::caption);
     range->setAlignment(Qt::AlignCenter);
     line->addWidget(range);
-    line->addWidget(make_.button(controls_.cmdRollVictorCas, "Roll inside the victor's range", roll_width));
-    line->addWidget(
-        make_.number_box(controls_.txtVictorCasPercent, "Victor's casualties, percent of the loser's", box_width));
+    roll_share_ = make_.button(controls_.cmdRollVictorCas, "Roll inside the victor's range", roll_width, field_height);
+    line->addWidget(roll_share_);
+    auto* const share =
+        make_.number_box(controls_.txtVictorCasPercent, "Victor's casualties, percent of the loser's", 40);
+    share->set_reading(whole_number<TextToInt>);
+    line->addWidget(share);
     line->addWidget(make_.label(controls_.Label(14)));
     line->addWidget(make_.label(controls_.lblLoserPercent, 36));
     add_labelled(*line, make_.label(controls_.Label13),
-                 make_.number_box(controls_.txtVictorCas, "Victor's casualties, percent", box_width + 8));
+                 make_.number_box(controls_.txtVictorCas, "Victor's casualties, percent", 48));
     line->addWidget(make_.label(controls_.Label(22)));
     line->addStretch();
     return line;
 }
 
-QWidget* CombatPage::side(int Index)
-{
-    struct Heads {
-        int name, had, loses;
-    };
-    Heads const heads = Index == 0 ? Heads{13, 11, 12} : Heads{19, 21, 20};
-    CaptionFrame* const frame = make_.frame(Index == 0 ? controls_.frmSideA : controls_.Frame8);
-    auto* const grid = new QGridLayout{frame};
-    grid->setContentsMargins(0, frame->caption_height() + make_.pixels(close_gap), 0, 0);
-    grid->setHorizontalSpacing(make_.pixels(close_gap));
-    grid->setVerticalSpacing(make_.pixels(close_gap));
-    grid->setColumnStretch(0, 1);
-    grid->addWidget(make_.label(controls_.Label(heads.name)), 0, 0);
-    grid->addWidget(make_.label(controls_.Label(heads.had)), 0, 1, Qt::AlignRight);
-    grid->addWidget(make_.label(controls_.Label(heads.loses)), 0, 2, Qt::AlignRight);
-    for (int row = 0; row < unit_rows; ++row) {
-        int const field = combat_row(Index, row);
-        QString const unit = QString{"%1, unit %2, "}.arg(spoken_side(Index)).arg(row + 1);
-        grid->addWidget(make_.text_box(controls_.txtAName(field), unit + "name"), row + 1, 0);
-        grid->addWidget(make_.number_box(controls_.txtANum(field), unit + "had", number_width), row + 1, 1);
-        grid->addWidget(make_.number_box(controls_.txtLoses(field), unit + "loses", number_width), row + 1, 2);
-    }
-    grid->setRowStretch(unit_rows + 1, 1);
-    auto* const apply =
-        make_.button(controls_.cmdApplyCasualties(Index), "Apply casualties to " + spoken_side(Index), apply_width);
-    grid->addWidget(apply, unit_rows + 2, 0, 1, 3, Qt::AlignRight);
-    return frame;
-}
-
+/// The line between the two accounts continues the casualties' line.
 QWidget* CombatPage::description()
 {
+    constexpr int sheet_top = totals_top + CaptionFrame::caption_height;
     CaptionFrame* const frame = make_.frame(controls_.Frame9);
     auto* const column = new QVBoxLayout{frame};
-    column->setContentsMargins(0, frame->caption_height() + make_.pixels(close_gap), 0, 0);
-    column->setSpacing(make_.pixels(close_gap));
-    auto const add = [&](TextLabel& caption_field, RichTextBox& text_field, char const* spoken) {
-        auto* const caption = make_.label(caption_field);
-        auto* const text = make_.description(text_field, spoken);
-        caption->setBuddy(text);
-        column->addWidget(caption);
-        column->addWidget(text, 1);
+    column->setContentsMargins(0, make_.span(totals_top, sheet_top), 0, 0);
+    auto* const sheet =
+        new DescriptionSheet{controls_, make_, sheet_top, casualties_top + CaptionFrame::caption_height, screen_end};
+    sheet->setFixedSize(make_.pixels(column_width), make_.span(sheet_top, screen_end));
+    column->addWidget(sheet);
+    auto* const place = new QWidget;
+    auto* const below = new QVBoxLayout{place};
+    below->setContentsMargins(0, make_.pixels(totals_top), 0, 0);
+    below->addWidget(frame);
+    return place;
+}
+
+void CombatPage::show_army_names(std::array<QString, 2> const& names)
+{
+    for (std::size_t k = 0; k < names.size(); ++k) {
+        QString const& name = names.at(k);
+        names_.at(k)->set_whole_text(name.isEmpty() ? spoken_side(static_cast<int>(k)) : name);
+        totals_.at(k)->setAccessibleDescription(name);
+        sides_.at(k)->set_note(name);
+    }
+    band_->show_army_names(names);
+}
+
+void CombatPage::focus_first_step() { roll_all_->setFocus(Qt::OtherFocusReason); }
+
+void CombatPage::follow_battle()
+{
+    auto const when_shown = [this](Control& field, auto tell) {
+        field.show = [this, tell, before = field.show] {
+            if (before) before(); // a button shows nothing by itself
+            tell(signs_);
+            show_signs();
+        };
     };
-    add(controls_.Label10, controls_.txtBattleResults, "Description of the loser's casualties");
-    column->addSpacing(make_.pixels(gap));
-    add(controls_.Label11, controls_.txtVictorDesc, "Description of the victor's casualties");
-    return frame;
+    for (int const Index : {0, 1}) {
+        when_shown(controls_.txtResult(Index), [](BattleSigns& signs) { signs.result_set(); });
+        when_shown(controls_.cmdApplyCasualties(Index),
+                   [Index](BattleSigns& signs) { signs.casualties_applied(Index); });
+        for (int row = 0; row < unit_rows; ++row) {
+            when_shown(controls_.txtLoses(combat_row(Index, row)),
+                       [Index](BattleSigns& signs) { signs.loss_set(Index); });
+        }
+    }
+    when_shown(controls_.txtVictorCasRoll, [](BattleSigns& signs) { signs.casualty_roll_set(); });
+    when_shown(controls_.txtVictorCasPercent, [](BattleSigns& signs) { signs.share_set(); });
+    for (TextBox* const field : {&controls_.txtLoserCasualty, &controls_.txtVictorCas}) {
+        when_shown(*field, [](BattleSigns& signs) { signs.percentage_set(); });
+    }
+    when_shown(controls_.cmdSimulate, [](BattleSigns& signs) { signs.battles_simulated(); });
+    also_show(controls_.lblWinner, [this] { show_signs(); });
+    also_show(controls_.lblWinBy, [this] { band_->show_winner(); });
+}
+
+/// What a user ticks, the box shows before its field does.
+void CombatPage::follow_box(CheckBox& field, QCheckBox* box)
+{
+    field.show = [this, &field, box, before = field.show] {
+        bool const by_roll = field.state() == 1 && !box->isChecked();
+        before();
+        if (by_roll) signs_.reroll_asked();
+        if (controls_.chkPlus5.state() == 0 && controls_.chkMinus5.state() == 0) signs_.boxes_unchecked();
+        show_signs();
+    };
+}
+
+void CombatPage::show_signs()
+{
+    using enum BattleSigns::Reroll;
+    auto const due = signs_.reroll();
+    set_strong(*roll_all_, due == none);
+    set_strong(*roll_casualty_, due == casualty_roll);
+    set_strong(*roll_share_, due == share);
+    casualty_frame_->set_hint(due == none ? QString{} : "Reroll due: press Roll, then the Roll below it");
+    set_ink(*note_, due == none ? Ink::dim : Ink::text);
+    roll_frame_->set_hint(signs_.simulated() ? "This is the last of the simulated battles" : QString{});
+    bool const rolled = shown_winner(controls_).has_value();
+    for (EntryBox* const box : results_) set_ink(*box, rolled ? Ink::text : Ink::dim);
+    for (SidePanel* const side : sides_) side->show_signs(signs_);
+    band_->show_winner();
 }
 
 } // namespace warhost

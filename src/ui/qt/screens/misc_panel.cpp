@@ -1,26 +1,26 @@
 #include "ui/qt/screens/misc_panel.h"
 
-#include "ui/qt/look/contrast.h"
+#include "ui/qt/look/colours.h"
+#include "ui/qt/look/ink.h"
 #include "ui/qt/widgets/binding.h"
+#include "ui/qt/widgets/entry_box.h"
+#include "ui/qt/widgets/number_reading.h"
 #include "ui/qt/widgets/text.h"
 #include "ui/qt/widgets/value_box.h"
 
 #include <QCheckBox>
 #include <QEvent>
 #include <QKeyEvent>
-#include <QLineEdit>
+#include <QPaintEvent>
+#include <QPainter>
 #include <QStyle>
 #include <QStyleOptionButton>
 
-#include <cstdlib>
 #include <utility>
 
 namespace warhost {
 
 namespace {
-
-constexpr QColor light_stripe{240, 240, 240};
-constexpr int least_difference = 8; // of the lightness of two neighbouring rows, of 255
 
 /// Neighbouring rows meet: each edge is rounded by itself.
 QRect geometry_of(Place const& place, Scale const& scale)
@@ -32,24 +32,32 @@ QRect geometry_of(Place const& place, Scale const& scale)
 
 } // namespace
 
-RowColours row_colours(QPalette const& palette)
-{
-    QColor const button = palette.color(QPalette::Button);
-    QColor const text = palette.color(QPalette::ButtonText);
-    if (button.lightness() <= text.lightness()) return {button, mixture(button, text, 12)};
-    bool const differs = std::abs(button.lightness() - light_stripe.lightness()) >= least_difference;
-    return {differs ? button : mixture(button, text, 7), light_stripe};
-}
-
 MiscPanel::MiscPanel(ArmyControls& controls, Scale const& scale, std::function<bool()> add_row,
                      std::function<void(int)> show_help, QWidget* parent)
-    : CaptionFrame(0, parent),
+    : CaptionFrame(parent),
       controls_(controls),
       scale_(scale),
       add_row_(std::move(add_row)),
       show_help_(std::move(show_help))
 {
     bind(controls.FrameMisc, *this);
+}
+
+/// Behind the rows, over the whole width.
+void MiscPanel::paintEvent(QPaintEvent* event)
+{
+    Colours const& of = colours();
+    QPainter painter{this};
+    painter.setClipRect(event->rect());
+    for (auto const& row : rows_) {
+        CheckBox const& field = controls_.chkMisc(row.index);
+        if (!field.visible) continue;
+        QRect const band{0, row.box->y(), width(), row.box->height()};
+        painter.fillRect(band, field.striped ? of.stripe : of.page);
+        if (of.high_contrast) painter.fillRect(0, band.bottom(), width(), scale_.line(), of.hair);
+    }
+    painter.end();
+    CaptionFrame::paintEvent(event);
 }
 
 void MiscPanel::resizeEvent(QResizeEvent* event)
@@ -76,26 +84,14 @@ void MiscPanel::make_row(int index)
 
     bind(box_field, *row.box);
     row.box->setAccessibleName(caption);
-    row.box->setBackgroundRole(QPalette::Window);
-    row.box->setAutoFillBackground(true);
     row.box->setGeometry(geometry_of(box_field.place, scale_));
-    box_field.show = [this, row, &box_field] {
-        row.box->setChecked(box_field.state() == 1);
-        if (row.box->font().bold() == box_field.bold()) return;
-        QFont font = row.box->font();
-        font.setBold(box_field.bold());
-        row.box->setFont(font);
-        fit_caption(row);
-    };
-
     row.value->setParent(this);
     bind(value_field, *row.value);
     row.value->setAccessibleName(caption + ", value");
-    row.value->lineEdit()->setAlignment(Qt::AlignRight);
+    row.value->entry().set_reading(whole_number<TextToLong>);
     row.value->setGeometry(geometry_of(value_field.place, scale_));
 
-    colour(row);
-    box_field.show();
+    also_show(box_field, [this, row] { show_ticked(row); });
     fit_caption(row);
     if (rows_.size() > 1) setTabOrder(rows_.back().value, row.box);
     setTabOrder(row.box, row.value);
@@ -104,13 +100,16 @@ void MiscPanel::make_row(int index)
     rows_.push_back(row);
 }
 
-void MiscPanel::colour(Row const& row) const
+void MiscPanel::show_ticked(Row const& row) const
 {
-    auto const [face, stripe] = row_colours(palette());
-    QPalette band;
-    band.setColor(QPalette::Window, controls_.chkMisc(row.index).striped ? stripe : face);
-    band.setColor(QPalette::WindowText, palette().color(QPalette::ButtonText));
-    row.box->setPalette(band);
+    CheckBox const& field = controls_.chkMisc(row.index);
+    Type const type = field.bold() ? type::caption : type::plain;
+    row.value->entry().set_type(type);
+    set_ink(row.value->entry(), field.bold() ? Ink::text : Ink::dim);
+    QFont const font = in_type(window()->font(), type);
+    if (row.box->font() == font) return;
+    row.box->setFont(font);
+    fit_caption(row);
 }
 
 /// A caption that would run under the value is cut short; the tool tip has it whole.
@@ -129,9 +128,7 @@ void MiscPanel::fit_caption(Row const& row) const
 void MiscPanel::changeEvent(QEvent* event)
 {
     CaptionFrame::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange) {
-        for (auto const& row : rows_) colour(row);
-    } else if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
         for (auto const& row : rows_) fit_caption(row);
     }
 }

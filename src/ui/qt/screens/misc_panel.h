@@ -25,6 +25,7 @@ public:
               std::function<void(int)> show_help, QWidget* parent);
 
 protected:
+    void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -38,7 +39,7 @@ private:
 
     void make_rows_in_sight();
     void make_row(int index);
-    void colour(Row const& row) const;
+    void show_ticked(Row const& row) const;
     void fit_caption(Row const& row) const;
 
     ArmyControls& controls_;
@@ -47,12 +48,5 @@ private:
     std::function<void(int)> show_help_;
     std::vector<Row> rows_;
 };
-
-/// What lies behind the rows, taken from the theme: the button-face colour and the stripe, which differ visibly.
-struct RowColours {
-    QColor face;
-    QColor stripe;
-};
-RowColours row_colours(QPalette const& palette);
 
 } // namespace warhost

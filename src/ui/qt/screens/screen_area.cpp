@@ -1,5 +1,7 @@
 #include "ui/qt/screens/screen_area.h"
 
+#include <QApplication>
+
 namespace warhost {
 
 ScreenArea::ScreenArea(QWidget* parent) : QScrollArea(parent)
@@ -10,6 +12,10 @@ ScreenArea::ScreenArea(QWidget* parent) : QScrollArea(parent)
     // The tab strip's page shows through.
     widget()->setAutoFillBackground(false);
     viewport()->setAutoFillBackground(false);
+    // Also where the Tab key had no part in it.
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+        if (now != nullptr && isAncestorOf(now)) ensureWidgetVisible(now, 0, 0);
+    });
 }
 
 void ScreenArea::place(QRect const& room, QSize content, bool scrolls)

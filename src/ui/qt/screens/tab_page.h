@@ -1,12 +1,12 @@
-// A strip of tabs over the page area below it; the pages stand elsewhere.
+// The strip of tabs; the pages stand elsewhere.
 #pragma once
 
 #include <QTabBar>
 
 namespace warhost {
 
-/// The strip keeps its height whatever the widget's; the rest of the widget is the page's frame. Only the left button
-/// chooses a tab; the wheel does not.
+/// The strip keeps its height whatever the widget's. A side's tab carries the side's mark. Only the left button chooses
+/// a tab; the wheel does not.
 class TabPage : public QTabBar {
     Q_OBJECT
 
@@ -14,16 +14,35 @@ public:
     TabPage(int tab_height, QWidget* parent);
 
 protected:
-    QSize tabSizeHint(int index) const override { return {QTabBar::tabSizeHint(index).width(), tab_height_}; }
+    QSize tabSizeHint(int index) const override;
     QSize minimumTabSizeHint(int index) const override { return tabSizeHint(index); }
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 
 private:
-    void draw_page(QRect const& part);
+    void paint_tab(QPainter& painter, int place) const;
+    void set_hovered(int place);
 
     int tab_height_;
+    int hovered_ = -1;
+};
+
+/// What the tabs stand on: their strip above, the page below.
+class PageGround : public QWidget {
+    Q_OBJECT
+
+public:
+    /// strip_height: with the line that ends it, in pixels of the base size.
+    explicit PageGround(int strip_height) : strip_height_(strip_height) {}
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    int strip_height_;
 };
 
 } // namespace warhost

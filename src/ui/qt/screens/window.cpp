@@ -1,7 +1,9 @@
 #include "ui/qt/screens/window.h"
 
+#include "army/value_conversion.h"
 #include "ui/menus.h"
 #include "ui/qt/dialogs/qt_desktop.h"
+#include "ui/qt/look/page_style.h"
 #include "ui/qt/screens/army_page.h"
 #include "ui/qt/screens/combat_page.h"
 #include "ui/qt/screens/misc_panel.h"
@@ -27,7 +29,9 @@ namespace {
 
 constexpr double created_width = 12840; // twips, as the heights and margins below
 constexpr double created_height = 9600;
-constexpr int tab_height = 22; // pixels of the base size
+// Pixels of the base size.
+constexpr int tab_height = 22;
+constexpr int strip_height = 25;
 constexpr std::chrono::milliseconds put_off{100};
 
 using MenuHandler = void (*)(Main&);
@@ -54,11 +58,12 @@ QSize content_size(Frame const& frame, Scale const& scale)
 
 } // namespace
 
-Window::Window(Main& form, QtDesktop& desktop) : form_(form), desktop_(desktop), client_(new QWidget)
+Window::Window(Main& form, QtDesktop& desktop) : form_(form), desktop_(desktop), client_(new PageGround{strip_height})
 {
     setWindowTitle(program_title);
     desktop.attach(this);
     setCentralWidget(client_);
+    follow_page_palette(*client_);
     make_menus();
     fit_to_screen();
     form.Form_Load();
@@ -70,7 +75,7 @@ Window::Window(Main& form, QtDesktop& desktop) : form_(form), desktop_(desktop),
     connect(qApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager& session) {
         if (!session_may_end(session.allowsInteraction())) session.cancel();
     });
-    focus_army_name();
+    focus_first_control();
 }
 
 Window::~Window() { desktop_.attach(nullptr); }
@@ -151,15 +156,16 @@ void Window::make_tab_strip()
 void Window::make_screens()
 {
     army_ = new ArmyPage{form_,
+                         [this](QString const& text) { return level_in_digits(text); },
                          scale_,
                          content_size(form_.FrameArmy, scale_),
                          [this] { return form_.add_misc_row(); },
                          [this](int topic) { desktop_.show_help(topic); },
                          client_};
-    colour_read_only_boxes();
     form_.FrameArmy.show = [this] { place_screen(form_.FrameArmy, *army_); };
     form_.FrameCombat.show = [this] {
         if (combat_ == nullptr && form_.FrameCombat.visible()) make_combat_screen();
+        if (form_.FrameCombat.visible()) show_army_names();
         if (combat_ != nullptr) place_screen(form_.FrameCombat, *combat_);
     };
     form_.FrameMisc.show = [this] { place_misc_panel(); };
@@ -169,7 +175,11 @@ void Window::make_screens()
 void Window::make_combat_screen()
 {
     combat_ = new CombatPage{form_, scale_, content_size(form_.FrameCombat, scale_), client_};
-    colour_read_only_boxes();
+}
+
+void Window::show_army_names()
+{
+    combat_->show_army_names({beginning_of(form_.ArmyA.Name), beginning_of(form_.ArmyB.Name)});
 }
 
 /// Where the screens scroll, a frame ends at a margin, in pixels of the base size, before the client area does.
@@ -218,23 +228,19 @@ void Window::choose_tab(int position)
 {
     if (!takes_input(*tabs_)) return place_tab_strip();
     form_.TabStrip.choose(position);
-    focus_army_name();
+    focus_first_control();
 }
 
-void Window::focus_army_name()
+void Window::focus_first_control()
 {
     if (form_.FrameArmy.visible()) army_->findChild<QLineEdit*>("txtArmyName")->setFocus(Qt::OtherFocusReason);
+    else if (combat_ != nullptr) combat_->focus_first_step();
 }
 
-void Window::colour_read_only_boxes()
+QString Window::level_in_digits(QString const& text)
 {
-    for (QLineEdit* const box : findChildren<QLineEdit*>()) {
-        if (!box->isReadOnly()) continue;
-        QPalette flat = box->palette();
-        flat.setBrush(QPalette::Base, palette().window());
-        flat.setBrush(QPalette::Text, palette().windowText());
-        box->setPalette(flat);
-    }
+    NumberFormat const format = desktop_.number_format();
+    return to_qt(general_text(TextToSingle(text.toStdString(), format), format));
 }
 
 bool Window::eventFilter(QObject* watched, QEvent* event)
@@ -253,7 +259,6 @@ void Window::changeEvent(QEvent* event)
 {
     QMainWindow::changeEvent(event);
     if (tabs_ == nullptr) return;
-    if (event->type() == QEvent::PaletteChange) colour_read_only_boxes();
     if (event->type() == QEvent::WindowStateChange) follow_size();
 }
 

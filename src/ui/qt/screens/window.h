@@ -46,8 +46,9 @@ private:
     void place_screen(Frame const& frame, ScreenArea& screen);
     void place_misc_panel();
     void choose_tab(int position);
-    void focus_army_name();
-    void colour_read_only_boxes();
+    void focus_first_control();
+    void show_army_names();
+    QString level_in_digits(QString const& text);
     bool waits_for_disk() const;
     bool confirms_quit();
 

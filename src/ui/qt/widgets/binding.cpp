@@ -55,11 +55,22 @@ void name_after(Control const& field, QWidget& widget)
     if (!field.tooltip.empty()) widget.setToolTip(to_qt(field.tooltip));
 }
 
+void also_show(Control& field, Notification const& more)
+{
+    field.show = [before = field.show, more] {
+        before();
+        more();
+    };
+    more();
+}
+
 void bind(TextLabel& field, QLabel& label)
 {
     name_after(field, label);
     label.setTextFormat(Qt::PlainText);
-    field.show = [&] { label.setText(to_qt(field.caption())); };
+    field.show = [&] {
+        if (QString const caption = to_qt(field.caption()); label.text() != caption) label.setText(caption);
+    };
     field.show();
 }
 

@@ -37,6 +37,9 @@ inline constexpr int longest_text = 65535;
 /// Assistive technology acts on any widget at any time; what it does to one that takes no input is undone.
 bool takes_input(QWidget const& widget);
 
+/// Runs after a field has been shown, for what else depends on it. The field must be bound before.
+void also_show(Control& field, Notification const& more);
+
 /// The part of it that every kind shares.
 void name_after(Control const& field, QWidget& widget);
 

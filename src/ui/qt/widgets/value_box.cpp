@@ -1,16 +1,17 @@
 #include "ui/qt/widgets/value_box.h"
 
 #include "ui/qt/widgets/binding.h"
+#include "ui/qt/widgets/entry_box.h"
 #include "ui/qt/widgets/text.h"
 
 #include <QAccessibleWidget>
 #include <QCompleter>
 #include <QCoreApplication>
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QPointer>
 #include <QSignalBlocker>
 #include <QStringList>
+#include <QStylePainter>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -67,10 +68,10 @@ void ValueBox::put_line_edit()
 {
     static QPointer<QCompleter> spare; // setLineEdit makes a completer where there is none
     if (spare.isNull()) spare = new QCompleter{QCoreApplication::instance()};
-    auto* const edit = new QLineEdit{this};
-    edit->setCompleter(spare);
-    setLineEdit(edit);
-    edit->setCompleter(nullptr);
+    entry_ = new EntryBox{EntryBox::Holds::number, this};
+    entry_->setCompleter(spare);
+    setLineEdit(entry_);
+    entry_->setCompleter(nullptr);
 }
 
 ValueBox::ValueBox(ComboBox& field) : field_(field)
@@ -99,6 +100,14 @@ void ValueBox::showPopup()
     setCurrentIndex(field_.listed_index());
     setEditText(to_qt(field_.text())); // filling the list has put its first item there
     QComboBox::showPopup();
+}
+
+void ValueBox::paintEvent(QPaintEvent* /*event*/)
+{
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    option.subControls.setFlag(QStyle::SC_ComboBoxArrow, field_.list_size() > 0);
+    QStylePainter{this}.drawComplexControl(QStyle::CC_ComboBox, option);
 }
 
 void ValueBox::step(int places)

@@ -7,6 +7,9 @@
 
 namespace warhost {
 
+class EntryBox;
+
+/// Its arrow is dim while the list is empty.
 class ValueBox : public QComboBox {
     Q_OBJECT
 
@@ -14,9 +17,12 @@ public:
     /// The field must outlive the box's use.
     explicit ValueBox(ComboBox& field);
 
+    EntryBox& entry() const { return *entry_; }
+
     void showPopup() override;
 
 protected:
+    void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 
@@ -25,6 +31,7 @@ private:
     void step(int places);
 
     ComboBox& field_;
+    EntryBox* entry_ = nullptr;
 };
 
 } // namespace warhost

@@ -1,14 +1,15 @@
 #include "ui/qt/widgets/widget_maker.h"
 
+#include "ui/qt/look/page_style.h"
 #include "ui/qt/widgets/binding.h"
 #include "ui/qt/widgets/caption_frame.h"
+#include "ui/qt/widgets/entry_box.h"
 #include "ui/qt/widgets/option_choice.h"
 #include "ui/qt/widgets/value_box.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QTextEdit>
 
@@ -16,7 +17,7 @@ namespace warhost {
 
 namespace {
 
-constexpr int frame_margin_base = 4;
+constexpr int field_height = 20;
 
 } // namespace
 
@@ -27,40 +28,60 @@ template <class Widget> Widget* WidgetMaker::interactive(Widget* widget, QString
     return widget;
 }
 
-int WidgetMaker::frame_margin() const { return pixels(frame_margin_base); }
+QFont WidgetMaker::font(Type type) const { return in_type(screen_.window()->font(), type); }
 
-QLabel* WidgetMaker::label(TextLabel& field, int width) const
+QLabel* WidgetMaker::label(TextLabel& field, int width, Type type) const
 {
     auto* const made = new QLabel;
     bind(field, *made);
+    made->setFont(font(type));
     made->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     if (width > 0) made->setFixedWidth(pixels(width));
     return made;
 }
 
-QLineEdit* WidgetMaker::text_box(TextBox& field, QString const& spoken, int width)
+EntryBox* WidgetMaker::entry(TextBox& field, QString const& spoken, bool number)
 {
-    auto* const made = interactive(new QLineEdit, spoken);
+    auto* const made = interactive(new EntryBox{number ? EntryBox::Holds::number : EntryBox::Holds::name}, spoken);
     bind(field, *made);
-    made->setFixedHeight(pixels(row_height_));
-    if (width > 0) made->setFixedWidth(pixels(width));
-    else made->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     return made;
 }
 
-QLineEdit* WidgetMaker::number_box(TextBox& field, QString const& spoken, int width)
+EntryBox* WidgetMaker::name_box(TextBox& field, QString const& spoken, int width)
 {
-    QLineEdit* const made = text_box(field, spoken, width);
-    made->setAlignment(Qt::AlignRight);
+    EntryBox* const made = entry(field, spoken, false);
+    made->setFixedSize(pixels(width), pixels(field_height));
     return made;
 }
 
-ValueBox* WidgetMaker::value_box(ComboBox& field, QString const& spoken, int width)
+EntryBox* WidgetMaker::number_box(TextBox& field, QString const& spoken, int width)
+{
+    EntryBox* const made = entry(field, spoken, true);
+    made->setFixedSize(pixels(width), pixels(field_height));
+    return made;
+}
+
+EntryBox* WidgetMaker::name_cell(TextBox& field, QString const& spoken)
+{
+    EntryBox* const made = entry(field, spoken, false);
+    make_cell(*made);
+    made->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+    return made;
+}
+
+EntryBox* WidgetMaker::number_cell(TextBox& field, QString const& spoken)
+{
+    EntryBox* const made = entry(field, spoken, true);
+    make_cell(*made);
+    made->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+    return made;
+}
+
+ValueBox* WidgetMaker::value_box(ComboBox& field, QString const& spoken, int width, int height)
 {
     auto* const made = interactive(new ValueBox{field}, spoken);
     bind(field, *made);
-    made->lineEdit()->setAlignment(Qt::AlignRight);
-    made->setFixedSize(pixels(width), pixels(row_height_));
+    made->setFixedSize(pixels(width), height);
     return made;
 }
 
@@ -80,13 +101,12 @@ OptionChoice* WidgetMaker::option(OptionButton& field, QString const& spoken, QW
     return made;
 }
 
-QPushButton* WidgetMaker::button(Button& field, QString const& spoken, int width)
+QPushButton* WidgetMaker::button(Button& field, QString const& spoken, int width, int height)
 {
     auto* const made = interactive(new QPushButton, spoken);
     bind(field, *made);
     made->setAutoDefault(true); // Enter presses the button that has the keyboard
-    made->setFixedHeight(pixels(row_height_));
-    if (width > 0) made->setFixedWidth(pixels(width));
+    made->setFixedSize(pixels(width), pixels(height));
     return made;
 }
 
@@ -100,14 +120,15 @@ QTextEdit* WidgetMaker::description(RichTextBox& field, QString const& spoken)
 
 CaptionFrame* WidgetMaker::frame(Frame& field) const
 {
-    auto* const made = new CaptionFrame{frame_margin(), &screen_};
+    auto* const made = new CaptionFrame{&screen_};
     bind(field, *made);
     return made;
 }
 
-QHBoxLayout* WidgetMaker::line(int spacing) const
+QHBoxLayout* WidgetMaker::row(int spacing) const
 {
     auto* const made = new QHBoxLayout;
+    made->setContentsMargins(0, 0, 0, 0);
     made->setSpacing(pixels(spacing));
     return made;
 }

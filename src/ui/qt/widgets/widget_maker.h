@@ -3,6 +3,7 @@
 
 #include "ui/fields.h"
 #include "ui/qt/look/scale.h"
+#include "ui/qt/look/type.h"
 
 #include <QString>
 
@@ -11,7 +12,6 @@
 class QCheckBox;
 class QHBoxLayout;
 class QLabel;
-class QLineEdit;
 class QPushButton;
 class QTextEdit;
 class QWidget;
@@ -19,48 +19,49 @@ class QWidget;
 namespace warhost {
 
 class CaptionFrame;
+class EntryBox;
 class OptionChoice;
 class ValueBox;
 
 /// Made in reading order, which becomes the order of the Tab key. Frames are children of the screen at once, so that
 /// they know their font; everything else is left to the layout that it is put in. spoken: the name by which a screen
-/// reader tells the widget from its neighbours. Widths are in pixels of the base size; 0 leaves the width to the
+/// reader tells the widget from its neighbours. Lengths are in pixels of the base size; a width of 0 is left to the
 /// layout.
 class WidgetMaker {
 public:
-    /// row_height: of boxes and buttons.
-    WidgetMaker(QWidget& screen, Scale const& scale, int row_height)
-        : screen_(screen),
-          scale_(scale),
-          row_height_(row_height)
-    {
-    }
+    WidgetMaker(QWidget& screen, Scale const& scale) : screen_(screen), scale_(scale) {}
 
     int pixels(double base) const { return scale_.from_base(base); }
-    int frame_margin() const;
+    int span(double from, double to) const { return scale_.span(from, to); }
+    int line() const { return scale_.line(); }
+    QFont font(Type type) const;
 
-    /// A label of no fixed text gets a fixed width, so that its neighbours stay where they are.
-    QLabel* label(TextLabel& field, int width = 0) const;
-    QLineEdit* text_box(TextBox& field, QString const& spoken, int width = 0);
-    QLineEdit* number_box(TextBox& field, QString const& spoken, int width = 0);
-    ValueBox* value_box(ComboBox& field, QString const& spoken, int width);
+    QLabel* label(TextLabel& field, int width = 0, Type type = type::plain) const;
+    EntryBox* name_box(TextBox& field, QString const& spoken, int width = 0);
+    EntryBox* number_box(TextBox& field, QString const& spoken, int width = 0);
+    /// A table gives its cells their height.
+    EntryBox* name_cell(TextBox& field, QString const& spoken);
+    EntryBox* number_cell(TextBox& field, QString const& spoken);
+    /// height: in pixels.
+    ValueBox* value_box(ComboBox& field, QString const& spoken, int width, int height);
     QCheckBox* check_box(CheckBox& field, QString const& spoken);
+    /// height: in pixels.
     OptionChoice* option(OptionButton& field, QString const& spoken, QWidget* group, int height);
-    QPushButton* button(Button& field, QString const& spoken, int width = 0);
+    QPushButton* button(Button& field, QString const& spoken, int width, int height);
     QTextEdit* description(RichTextBox& field, QString const& spoken);
     CaptionFrame* frame(Frame& field) const;
 
-    QHBoxLayout* line(int spacing) const;
+    QHBoxLayout* row(int spacing) const;
 
     /// Lets the Tab key follow the order of making.
     void set_tab_order() const;
 
 private:
     template <class Widget> Widget* interactive(Widget* widget, QString const& spoken);
+    EntryBox* entry(TextBox& field, QString const& spoken, bool number);
 
     QWidget& screen_;
     Scale scale_;
-    int row_height_;
     std::vector<QWidget*> order_;
 };
 

@@ -1,0 +1,53 @@
+// What the combat screen tells of the battle's course, beyond its fields.
+#pragma once
+
+#include <array>
+
+namespace warhost {
+
+/// Follows the fields as they are shown; whoever tells it of an event then shows what has become of it.
+class BattleSigns {
+public:
+    /// The button that a due reroll waits for.
+    enum class Reroll { none, casualty_roll, share };
+
+    Reroll reroll() const { return reroll_; }
+    /// The battle on the screen is a simulation's last.
+    bool simulated() const { return simulated_; }
+    /// Index: 0 for Side A, 1 for Side B. The losses on the screen are taken off the army already.
+    bool applied(int Index) const { return applied_.at(static_cast<std::size_t>(Index)); }
+
+    void result_set() { begin_anew(); }
+    void percentage_set() { applied_ = {}; }
+    void loss_set(int Index) { applied_.at(static_cast<std::size_t>(Index)) = false; }
+    void casualties_applied(int Index) { applied_.at(static_cast<std::size_t>(Index)) = true; }
+    void battles_simulated() { simulated_ = true; }
+
+    /// A box that asks for a reroll has been checked by a natural 1 or 20.
+    void reroll_asked() { reroll_ = Reroll::casualty_roll; }
+    void boxes_unchecked() { reroll_ = Reroll::none; }
+
+    void casualty_roll_set()
+    {
+        begin_anew();
+        if (reroll_ == Reroll::casualty_roll) reroll_ = Reroll::share;
+    }
+    void share_set()
+    {
+        begin_anew();
+        if (reroll_ == Reroll::share) reroll_ = Reroll::none;
+    }
+
+private:
+    void begin_anew()
+    {
+        simulated_ = false;
+        applied_ = {};
+    }
+
+    Reroll reroll_ = Reroll::none;
+    bool simulated_ = false;
+    std::array<bool, 2> applied_{};
+};
+
+} // namespace warhost

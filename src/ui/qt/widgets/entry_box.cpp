@@ -1,0 +1,145 @@
+#include "ui/qt/widgets/entry_box.h"
+
+#include "ui/qt/look/colours.h"
+#include "ui/qt/look/scale.h"
+#include "ui/qt/widgets/text.h"
+
+#include <QEvent>
+#include <QPainter>
+#include <QStyle>
+#include <QStyleOptionFrame>
+
+#include <array>
+#include <utility>
+
+namespace warhost {
+
+namespace {
+
+constexpr int free_side = 2;     // pixels that the toolkit keeps beside the text
+constexpr double mark_size = 7;  // pixels of the base size
+constexpr int most_shown = 1000; // characters; no box is wider
+constexpr std::array<double, 3> smaller_sizes{10, 9, 8};
+
+} // namespace
+
+EntryBox::EntryBox(Holds holds, QWidget* parent) : QLineEdit(parent), holds_(holds)
+{
+    if (holds == Holds::number) setAlignment(Qt::AlignRight);
+    connect(this, &QLineEdit::textChanged, this, [this] {
+        fit();
+        mark_reading();
+    });
+}
+
+void EntryBox::set_type(Type type)
+{
+    if (type_.pixels == type.pixels && type_.weight == type.weight) return;
+    type_ = type;
+    fit();
+}
+
+void EntryBox::set_reading(std::function<QString(QString const&)> reading)
+{
+    reading_ = std::move(reading);
+    mark_reading();
+}
+
+QRect EntryBox::room() const
+{
+    QStyleOptionFrame panel;
+    initStyleOption(&panel);
+    return style()
+        ->subElementRect(QStyle::SE_LineEditContents, &panel, this)
+        .marginsRemoved(textMargins())
+        .adjusted(free_side, 0, -free_side, 0);
+}
+
+bool EntryBox::is_cut() const { return fontMetrics().horizontalAdvance(text()) > room().width(); }
+
+void EntryBox::fit()
+{
+    if (holds_ == Holds::number) return fit_number();
+    QString const whole = !hasFocus() && is_cut() ? to_tooltip(beginning_of(text().toStdString())) : QString{};
+    if (toolTip() != whole) setToolTip(whole);
+    update();
+}
+
+void EntryBox::fit_number()
+{
+    QFont const own = window()->font();
+    QFont chosen = in_type(own, type_);
+    auto const fits = [&](QFont const& font) {
+        return QFontMetrics{font}.horizontalAdvance(text()) < room().width(); // the cursor stands behind it
+    };
+    for (double const size : smaller_sizes) {
+        if (size >= type_.pixels || fits(chosen)) continue;
+        chosen = in_type(own, {size, QFont::Normal});
+    }
+    if (font() != chosen) setFont(chosen);
+}
+
+/// Signs and the blanks around a number are no part of what it says.
+void EntryBox::mark_reading()
+{
+    if (!reading_) return;
+    QString said = text().trimmed();
+    if (said.startsWith('+')) said.remove(0, 1);
+    QString const read = reading_(text());
+    QString const now = said == read ? QString{} : "Counts as " + read;
+    if (now == counts_as_) return;
+    counts_as_ = now;
+    setToolTip(now);
+    QWidget* const heard = focusProxy() != nullptr ? focusProxy() : this; // which has the focus
+    heard->setAccessibleDescription(now);
+    update();
+}
+
+void EntryBox::paintEvent(QPaintEvent* event)
+{
+    bool const elided = holds_ == Holds::name && !hasFocus() && is_cut();
+    if (!elided) QLineEdit::paintEvent(event);
+    if (!elided && counts_as_.isEmpty()) return;
+    QPainter painter{this};
+    if (elided) {
+        QStyleOptionFrame panel;
+        initStyleOption(&panel);
+        style()->drawPrimitive(QStyle::PE_PanelLineEdit, &panel, &painter, this);
+        painter.setPen(palette().color(QPalette::Text));
+        painter.drawText(room(), static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter),
+                         fontMetrics().elidedText(text().left(most_shown), Qt::ElideRight, room().width()));
+    }
+    if (!counts_as_.isEmpty()) {
+        double const size = scale_of(this).factor() * mark_size;
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(colours().ring);
+        painter.drawPolygon(QPolygonF{{{0, 0}, {size, 0}, {0, size}}});
+    }
+}
+
+void EntryBox::resizeEvent(QResizeEvent* event)
+{
+    QLineEdit::resizeEvent(event);
+    fit();
+}
+
+void EntryBox::changeEvent(QEvent* event)
+{
+    QLineEdit::changeEvent(event);
+    if (event->type() == QEvent::StyleChange) fit();
+}
+
+void EntryBox::focusInEvent(QFocusEvent* event)
+{
+    QLineEdit::focusInEvent(event);
+    fit();
+}
+
+void EntryBox::focusOutEvent(QFocusEvent* event)
+{
+    QLineEdit::focusOutEvent(event);
+    fit();
+}
+
+} // namespace warhost

@@ -1,0 +1,25 @@
+#include "ui/qt/widgets/side_mark.h"
+
+#include "ui/qt/look/colours.h"
+#include "ui/qt/look/marks.h"
+#include "ui/qt/look/scale.h"
+
+#include <QPainter>
+
+namespace warhost {
+
+QSize SideMark::sizeHint() const
+{
+    Scale const scale = scale_of(this);
+    return {scale.from_base(mark_room), scale.from_base(mark_room)};
+}
+
+void SideMark::paintEvent(QPaintEvent* /*event*/)
+{
+    double const size = mark_size * scale_of(this).factor();
+    QPainter painter{this};
+    draw_side_mark(painter, Index_, {0, (height() - size) / 2, size, size},
+                   colours().side.at(static_cast<std::size_t>(Index_)));
+}
+
+} // namespace warhost

@@ -1,0 +1,24 @@
+// The shape of a side, before a text of it.
+#pragma once
+
+#include <QWidget>
+
+namespace warhost {
+
+class SideMark : public QWidget {
+    Q_OBJECT
+
+public:
+    /// Index: 0 for Side A, 1 for Side B.
+    explicit SideMark(int Index, QWidget* parent = nullptr) : QWidget(parent), Index_(Index) {}
+
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    int Index_;
+};
+
+} // namespace warhost

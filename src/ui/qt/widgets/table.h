@@ -1,0 +1,28 @@
+// A table of a screen: cells between hairlines, all of them widgets.
+#pragma once
+
+#include <QWidget>
+
+class QGridLayout;
+
+namespace warhost {
+
+/// What a label covers is a head of a row or column. Everything else paints itself.
+class Table : public QWidget {
+    Q_OBJECT
+
+public:
+    /// line: the width of the lines in pixels.
+    explicit Table(int line);
+
+    QGridLayout& grid() const { return *grid_; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QGridLayout* grid_;
+    int line_;
+};
+
+} // namespace warhost
