@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -47,17 +48,29 @@ bool Main::refused_on_combat_tab()
 
 void Main::cmdLoadArmy_Click()
 {
-    if (refused_on_combat_tab()) return;
-    std::optional<std::string> path;
-    step([&] {
-        KeptTab const kept{*this};
-        path = desktop_.file_dialog({.kind = FileDialogKind::open,
+    load_chosen([&] {
+        return desktop_.file_dialog({.kind = FileDialogKind::open,
                                      .title = "Load Warhost Army File",
                                      .default_extension = std::string{file_extension},
                                      .filter = file_filter,
                                      .file_name = {},
                                      .file_must_exist = true,
                                      .folder_must_exist = true});
+    });
+}
+
+void Main::load_dropped_army(std::string const& path)
+{
+    load_chosen([&] { return std::optional{path}; });
+}
+
+void Main::load_chosen(std::function<std::optional<std::string>()> const& choose)
+{
+    if (refused_on_combat_tab()) return;
+    std::optional<std::string> path;
+    step([&] {
+        KeptTab const kept{*this};
+        path = choose();
         if (!path) return;
         bool exists = false;
         desktop_.wait_for([&] { exists = FileExists(*path); });

@@ -12,7 +12,9 @@
 #include "ui/window_controls.h"
 
 #include <cstdint>
+#include <functional>
 #include <new>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -100,6 +102,8 @@ public:
 
     void cmdLoadArmy_Click();
     void cmdSaveArmy_Click();
+    /// Loads a file dropped on the window, in the same steps as cmdLoadArmy_Click. path: UTF-8.
+    void load_dropped_army(std::string const& path);
     /// Reads the file into CurArmy. A file that is not a complete army leaves CurArmy as it was. path: UTF-8.
     void LoadArmy(std::string const& path);
     void SaveArmy(std::string const& path);
@@ -169,6 +173,7 @@ private:
     int counted_misc_rows();
     void show_total_modifiers();
     bool refused_on_combat_tab();
+    void load_chosen(std::function<std::optional<std::string>()> const& choose);
     bool make_misc_row();
     void place_misc_row(int row);
     int effective_casualty_bonus();

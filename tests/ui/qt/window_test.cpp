@@ -12,12 +12,16 @@
 #include <QAccessible>
 #include <QCheckBox>
 #include <QDialog>
+#include <QDropEvent>
 #include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QThread>
 #include <QTimer>
+#include <QUrl>
 #include <QWheelEvent>
+#include <QWindow>
 
 #include <atomic>
 #include <clocale>
@@ -205,6 +209,35 @@ TEST(Window, tabs_swap_the_armies_and_the_menus_and_their_keys_save_and_load_the
     EXPECT_FALSE(name.isVisible());
     screen.trigger("mnuLoad");
     EXPECT_EQ(screen.desktop.titles.size(), 1U) << "refused while neither side is chosen";
+}
+
+TEST(Window, a_dropped_army_is_loaded_into_the_side_shown)
+{
+    TemporaryFolder const folder;
+    Screen screen;
+    auto& name = screen.named<QLineEdit>("txtArmyName");
+    auto const drop = [&](QString const& file) {
+        QMimeData dragged;
+        dragged.setUrls({QUrl::fromLocalFile(to_qt(folder.path()) + "/" + file)});
+        QDropEvent event{name.geometry().center(), Qt::CopyAction | Qt::MoveAction, &dragged, Qt::LeftButton, {}};
+        QCoreApplication::sendEvent(screen.window.windowHandle(), &event);
+        QCoreApplication::processEvents();
+        return event.isAccepted() ? event.dropAction() : Qt::IgnoreAction;
+    };
+    screen.desktop.path = folder.path("elves.Army");
+    QTest::keyClicks(&name, "Elves");
+    screen.trigger("mnuSave");
+    folder.write("damaged.army", "no army");
+    screen.choose_tab(2);
+    EXPECT_EQ(drop("elves.Army"), Qt::CopyAction);
+    EXPECT_EQ(screen.form.ArmyB.Name, "Elves");
+    drop("damaged.army");
+    screen.choose_tab(3);
+    drop("elves.Army");
+    EXPECT_EQ(screen.desktop.titles, (std::vector<std::string>{"Error!", "Warhost"})); // damaged; refused
+    screen.window.setEnabled(false);
+    EXPECT_EQ(drop("elves.Army"), Qt::IgnoreAction);
+    EXPECT_EQ(screen.form.ArmyB.Name, "Elves");
 }
 
 /// What assistive technology can do to a window, whatever it shows.

@@ -4,6 +4,7 @@
 #include "ui/menus.h"
 #include "ui/qt/dialogs/qt_desktop.h"
 #include "ui/qt/look/page_style.h"
+#include "ui/qt/screens/army_drop.h"
 #include "ui/qt/screens/army_page.h"
 #include "ui/qt/screens/combat_page.h"
 #include "ui/qt/screens/misc_panel.h"
@@ -252,6 +253,7 @@ bool Window::eventFilter(QObject* watched, QEvent* event)
 void Window::showEvent(QShowEvent* event)
 {
     QMainWindow::showEvent(event);
+    if (drop_ == nullptr) drop_ = new ArmyDrop{*this, [this](auto const& path) { form_.load_dropped_army(path); }};
     follow_size();
 }
 

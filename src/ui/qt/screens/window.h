@@ -9,6 +9,7 @@
 
 namespace warhost {
 
+class ArmyDrop;
 class ArmyPage;
 class CombatPage;
 class QtDesktop;
@@ -63,6 +64,7 @@ private:
     QWidget* client_;
     TabPage* tabs_ = nullptr;
     ArmyPage* army_ = nullptr;
+    ArmyDrop* drop_ = nullptr;     // made when the window is first shown, as it then has a handle
     CombatPage* combat_ = nullptr; // made when it is first shown, not to slow the start
 };
 

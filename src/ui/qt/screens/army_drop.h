@@ -1,0 +1,31 @@
+// Army files dropped on the main window.
+#pragma once
+
+#include <QObject>
+
+#include <functional>
+
+class QMimeData;
+class QWidget;
+
+namespace warhost {
+
+/// Takes a file with the suffix ".Army" wherever it is dropped on the window, text boxes included; anything else is
+/// left to the widgets. The drag ends before load runs. Takes nothing while the window takes no input.
+class ArmyDrop : public QObject {
+    Q_OBJECT
+
+public:
+    using Load = std::function<void(std::string const& path)>;
+
+    /// window: shown already, so that it has a handle.
+    ArmyDrop(QWidget& window, Load load);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    QWidget& window_;
+    Load load_;
+};
+
+} // namespace warhost
