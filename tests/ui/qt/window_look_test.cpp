@@ -171,7 +171,9 @@ TEST(WindowLook, neighbouring_misc_rows_differ_and_odd_ones_are_light_grey)
     Screen screen;
     auto const behind = [&](char const* row) {
         auto& box = screen.named<QCheckBox>(row);
-        return box.grab().toImage().pixelColor(box.width() / 2, 2);
+        QPixmap const panel = box.parentWidget()->grab();
+        return panel.toImage().pixelColor(
+            (QPointF{box.width() / 2.0, box.y() + 3.0} * panel.devicePixelRatio()).toPoint());
     };
     for (char const* const row : {"chkMisc(1)", "chkMisc(3)"}) EXPECT_EQ(behind(row), QColor(240, 240, 240));
     EXPECT_GE(std::abs(behind("chkMisc(2)").lightness() - 240), 8);

@@ -33,7 +33,6 @@ constexpr int label_gap = 6;
 constexpr int scroll_bar_width = 12;
 constexpr int arrow_width = 13;
 constexpr int text_margin = 3; // beside the two pixels that a box for text keeps by itself
-constexpr int cell_margin_right = 5;
 
 /// The painter is as before when it ends.
 class Pen {
@@ -371,8 +370,10 @@ QRect PageStyle::subElementRect(SubElement element, QStyleOption const* option, 
     case SE_LineEditContents: {
         auto const* const frame = qstyleoption_cast<QStyleOptionFrame const*>(option);
         if (frame != nullptr && frame->lineWidth == 0 && !is_cell(widget)) return option->rect;
-        int const right = is_cell(widget) ? cell_margin_right : text_margin;
-        return option->rect.adjusted(scale.from_base(text_margin), 0, -scale.from_base(right), 0);
+        auto const* const box = qobject_cast<QLineEdit const*>(widget);
+        bool const number = is_cell(widget) && box != nullptr && box->alignment().testFlag(Qt::AlignRight);
+        int const left = number ? 0 : text_margin;
+        return option->rect.adjusted(scale.from_base(left), 0, -scale.from_base(text_margin), 0);
     }
     case SE_PushButtonFocusRect: return option->rect;
     case SE_CheckBoxFocusRect:

@@ -163,8 +163,8 @@ QWidget* ArmyPage::units()
     int const side = make_.pixels(5);
     int const number_side = make_.pixels(7);
 
-    auto* const heads = make_.row(4);
-    heads->setContentsMargins(make_.pixels(30), 0, number_side, 0);
+    auto* const heads = make_.row(2);
+    heads->setContentsMargins(make_.pixels(28), 0, number_side, 0);
     for (TextLabel* const field : {&controls_.Label1, &controls_.Label2}) {
         QLabel* const label = make_.label(*field);
         set_ink(*label, Ink::dim);
@@ -206,7 +206,6 @@ QWidget* ArmyPage::units()
     total_label->setContentsMargins(0, 0, side, 0);
     auto* const total = make_.number_cell(controls_.txtTotalNo, "Total number of soldiers");
     total->set_type(type::caption);
-    total->set_reading(whole_number<TextToLong>);
     total_label->setBuddy(total);
     int const foot = top + head + unit_rows * row;
     grid.setRowMinimumHeight(unit_rows + 1, make_.span(foot, foot + row) - make_.line());
@@ -235,14 +234,16 @@ void ArmyPage::propose_units()
 
 QLayout* ArmyPage::ratio_line()
 {
-    auto* const line = make_.row(8);
+    auto* const line = make_.row(4);
     QLabel* const bonus = make_.label(controls_.lblRatioBonus, 0, type::caption);
     bonus->setAlignment(Qt::AlignRight);
     auto* const caption = make_.label(controls_.Label12);
     caption->setFixedHeight(make_.span(units_end, ratio_end));
     line->setContentsMargins(0, 0, make_.pixels(5), 0);
     line->addWidget(caption);
-    line->addWidget(make_.label(controls_.lblRatio, 48));
+    QLabel* const ratio = make_.label(controls_.lblRatio, 48);
+    ratio->setAlignment(Qt::AlignCenter);
+    line->addWidget(ratio);
     line->addWidget(make_.label(controls_.Label14));
     line->addWidget(bonus, 1);
     return line;

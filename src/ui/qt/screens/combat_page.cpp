@@ -36,6 +36,7 @@ constexpr int result_height = 30;
 constexpr int label_width = 128; // of the lines whose boxes stand one under the other
 constexpr int box_width = 44;
 constexpr int roll_width = 48;
+constexpr int range_end = 189; // before the button that rolls inside it
 
 constexpr int totals_top = 8;
 constexpr int total_pitch = 24;
@@ -246,10 +247,15 @@ QLayout* CombatPage::victor_roll_line()
 QLayout* CombatPage::victor_percent_line()
 {
     auto* const line = make_.row(gap);
-    line->addWidget(make_.label(controls_.Label(17), label_width));
-    auto* const range = make_.label(controls_.lblCasRange, 57, type::caption);
+    auto* const words = make_.row(gap); // as wide as the label and the box above
+    auto* const range = make_.label(controls_.lblCasRange, 0, type::caption);
     range->setAlignment(Qt::AlignCenter);
-    line->addWidget(range);
+    words->addWidget(make_.label(controls_.Label(17)));
+    words->addWidget(range, 1);
+    auto* const holder = new QWidget;
+    holder->setLayout(words);
+    holder->setFixedWidth(make_.pixels(range_end));
+    line->addWidget(holder);
     roll_share_ = make_.button(controls_.cmdRollVictorCas, "Roll inside the victor's range", roll_width, field_height);
     line->addWidget(roll_share_);
     auto* const share =

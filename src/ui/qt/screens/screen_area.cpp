@@ -14,9 +14,20 @@ ScreenArea::ScreenArea(QWidget* parent) : QScrollArea(parent)
     viewport()->setAutoFillBackground(false);
     // Also where the Tab key had no part in it.
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
-        if (now != nullptr && isAncestorOf(now)) ensureWidgetVisible(now, 0, 0);
+        if (now != nullptr && isAncestorOf(now)) show_whole(*now);
     });
 }
+
+/// The toolkit would be content with the place of the cursor.
+void ScreenArea::show_whole(QWidget const& at)
+{
+    constexpr int around = 4;
+    QRect const room{at.mapTo(widget(), QPoint{}), at.size()};
+    ensureVisible(room.center().x(), room.center().y(), room.width() / 2 + around, room.height() / 2 + around);
+}
+
+/// What has got the focus is in sight already.
+bool ScreenArea::focusNextPrevChild(bool next) { return QWidget::focusNextPrevChild(next); }
 
 void ScreenArea::place(QRect const& room, QSize content, bool scrolls)
 {

@@ -17,6 +17,12 @@ public:
     /// room: the viewport's place. content: the screen's whole size; what the room does not show is scrolled to when
     /// `scrolls`, else out of sight.
     void place(QRect const& room, QSize content, bool scrolls);
+
+protected:
+    bool focusNextPrevChild(bool next) override;
+
+private:
+    void show_whole(QWidget const& at);
 };
 
 } // namespace warhost
