@@ -3,6 +3,7 @@
 #include "battle/random.h"
 #include "ui/main.h"
 #include "ui/qt/dialogs/qt_desktop.h"
+#include "ui/qt/look/page_style.h"
 #include "ui/qt/screens/window.h"
 
 #include <QApplication>
@@ -66,6 +67,7 @@ constexpr char const* window_with_menus = "--menus"; // whose captions are the f
 [[noreturn]] void show_once(int argc, char** argv, std::string const& what)
 {
     QApplication const application{argc, argv};
+    QApplication::setStyle(new PageStyle);
     if (what != empty_window && what != window_with_menus) {
         Program const program{what};
         ::_exit(0);
@@ -171,6 +173,7 @@ int main(int argc, char* argv[])
 {
     if (argc == 3 && std::string{argv[1]} == "--show") show_once(argc, argv, argv[2]);
     QApplication const application{argc, argv};
+    QApplication::setStyle(new PageStyle);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     return 0;

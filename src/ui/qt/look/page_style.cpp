@@ -21,6 +21,7 @@ namespace {
 
 constexpr char cell_property[] = "cell";
 constexpr char strong_property[] = "strong";
+constexpr char ringless_property[] = "ringless";
 
 // Pixels of the base size.
 constexpr double field_corner = 3;
@@ -98,6 +99,11 @@ private:
 bool is_in(QStyleOption const& option, QStyle::StateFlag state) { return option.state.testFlag(state); }
 
 bool is_cell(QWidget const* widget) { return widget != nullptr && widget->property(cell_property).toBool(); }
+
+bool has_rings_above(QWidget const* widget)
+{
+    return widget != nullptr && widget->window()->property(ringless_property).toBool();
+}
 
 bool is_strong(QStyleOption const& option, QWidget const* widget)
 {
@@ -329,9 +335,10 @@ void PageStyle::drawControl(ControlElement element, QStyleOption const* option, 
             QStyleOptionButton ringless = *button;
             ringless.state.setFlag(State_HasFocus, false); // the base style asks its own focus rectangle
             QProxyStyle::drawControl(element, &ringless, painter, widget);
-            if (!is_in(*option, State_HasFocus)) return;
+            if (!is_in(*option, State_HasFocus) || has_rings_above(widget)) return;
             auto const part = element == CE_CheckBox ? SE_CheckBoxFocusRect : SE_RadioButtonFocusRect;
-            Pen{*painter, widget, true}.ring(proxy()->subElementRect(part, option, widget), field_corner);
+            Pen{*painter, widget, true}.ring(proxy()->subElementRect(part, option, widget) & option->rect,
+                                             field_corner);
         }
         return;
     case CE_ProgressBarGroove: {
@@ -387,7 +394,7 @@ QRect PageStyle::subElementRect(SubElement element, QStyleOption const* option, 
             text = alignedRect(option->direction, Qt::AlignLeft | Qt::AlignVCenter,
                                {wide, option->fontMetrics.height()}, text);
             int const free = scale.from_base(4); // two of them the ring's
-            return mark.united(text).adjusted(-free, -free, free, free).intersected(option->rect);
+            return mark.united(text).adjusted(-free, -free, free, free);
         }
         break;
     default: break;
@@ -457,6 +464,8 @@ void set_strong(QPushButton& button, bool strong)
     button.setProperty(strong_property, strong);
     button.update();
 }
+
+void leave_rings_to_others(QWidget& window) { window.setProperty(ringless_property, true); }
 
 void follow_page_palette(QWidget& widget)
 {

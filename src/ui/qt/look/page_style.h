@@ -40,6 +40,9 @@ void make_cell(QLineEdit& box);
 /// The button to press next. In dialogs the default button is strong by itself.
 void set_strong(QPushButton& button, bool strong);
 
+/// Check boxes and options of this window get their rings from somebody else.
+void leave_rings_to_others(QWidget& window);
+
 /// Gives a widget page_palette(), also after the user's palette has changed. The widget must be in its window already.
 void follow_page_palette(QWidget& widget);
 

@@ -3,6 +3,7 @@
 #include "ui/qt/look/colours.h"
 #include "ui/qt/look/ink.h"
 #include "ui/qt/widgets/binding.h"
+#include "ui/qt/widgets/elided_label.h"
 #include "ui/qt/widgets/entry_box.h"
 #include "ui/qt/widgets/number_reading.h"
 #include "ui/qt/widgets/text.h"
@@ -122,7 +123,7 @@ void MiscPanel::fit_caption(Row const& row) const
     QString const caption = beginning_of(controls_.chkMisc(row.index).caption());
     QString const shown = row.box->fontMetrics().elidedText(caption, Qt::ElideRight, room);
     row.box->setText(to_caption(shown));
-    row.box->setToolTip(shown == caption ? QString{} : to_tooltip(caption));
+    tell_whole(*row.box, shown == caption ? QString{} : caption);
 }
 
 void MiscPanel::changeEvent(QEvent* event)

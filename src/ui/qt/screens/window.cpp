@@ -10,6 +10,7 @@
 #include "ui/qt/screens/misc_panel.h"
 #include "ui/qt/screens/tab_page.h"
 #include "ui/qt/widgets/binding.h"
+#include "ui/qt/widgets/focus_ring.h"
 #include "ui/qt/widgets/text.h"
 
 #include <QApplication>
@@ -18,6 +19,7 @@
 #include <QMenuBar>
 #include <QScreen>
 #include <QSessionManager>
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <QStyle>
 
@@ -70,6 +72,8 @@ Window::Window(Main& form, QtDesktop& desktop) : form_(form), desktop_(desktop),
     form.Form_Load();
     make_tab_strip();
     make_screens();
+    new FocusRing{*client_};
+    make_tab_keys();
     client_->installEventFilter(this);
     close_later_.setSingleShot(true);
     connect(&close_later_, &QTimer::timeout, this, &QWidget::close);
@@ -152,6 +156,20 @@ void Window::make_tab_strip()
     });
     form_.TabStrip.show = [this] { place_tab_strip(); };
     place_tab_strip();
+}
+
+void Window::make_tab_keys()
+{
+    struct Keys {
+        char const* keys;
+        int step;
+    };
+    for (auto const& [keys, step] :
+         {Keys{"Ctrl+Tab", 1}, {"Ctrl+PgDown", 1}, {"Ctrl+Shift+Tab", -1}, {"Ctrl+PgUp", -1}}) {
+        connect(new QShortcut{QKeySequence{keys}, this}, &QShortcut::activated, this, [this, by = step] {
+            tabs_->setCurrentIndex((tabs_->currentIndex() + by + tabs_->count()) % tabs_->count());
+        });
+    }
 }
 
 void Window::make_screens()

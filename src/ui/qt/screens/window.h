@@ -38,6 +38,7 @@ protected:
 private:
     void make_menus();
     void make_tab_strip();
+    void make_tab_keys();
     void make_screens();
     void make_combat_screen();
     void fit_to_screen();

@@ -4,7 +4,7 @@
 #include "ui/qt/look/marks.h"
 #include "ui/qt/look/scale.h"
 #include "ui/qt/look/type.h"
-#include "ui/qt/widgets/text.h"
+#include "ui/qt/widgets/elided_label.h"
 
 #include <QPainter>
 
@@ -66,7 +66,7 @@ int CaptionFrame::note_room() const { return std::max(0, width() - kept_free_ - 
 void CaptionFrame::show_note_whole_when_cut()
 {
     bool const cut = fontMetrics().horizontalAdvance(note_) > note_room();
-    setToolTip(cut ? to_tooltip(note_) : QString{});
+    tell_whole(*this, cut ? note_ : QString{});
 }
 
 void CaptionFrame::resizeEvent(QResizeEvent* event)

@@ -6,6 +6,13 @@
 
 namespace warhost {
 
+void tell_whole(QWidget& widget, QString const& text)
+{
+    if (widget.toolTip() == to_tooltip(text)) return;
+    widget.setToolTip(to_tooltip(text));
+    widget.setAccessibleDescription(text); // a tool tip has markup
+}
+
 ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent)
 {
     setTextFormat(Qt::PlainText);
@@ -34,7 +41,7 @@ void ElidedLabel::fit()
 {
     QString const shown = fontMetrics().elidedText(whole_, Qt::ElideRight, contentsRect().width());
     setText(shown);
-    setToolTip(shown == whole_ ? QString{} : to_tooltip(whole_));
+    tell_whole(*this, shown == whole_ ? QString{} : whole_);
 }
 
 } // namespace warhost

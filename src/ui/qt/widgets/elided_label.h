@@ -5,6 +5,9 @@
 
 namespace warhost {
 
+/// Tells the whole of a text that a widget shows cut short, as its tool tip and to screen readers; empty for none.
+void tell_whole(QWidget& widget, QString const& text);
+
 class ElidedLabel : public QLabel {
     Q_OBJECT
 

@@ -2,6 +2,7 @@
 
 #include "ui/qt/look/colours.h"
 #include "ui/qt/look/scale.h"
+#include "ui/qt/widgets/elided_label.h"
 #include "ui/qt/widgets/text.h"
 
 #include <QEvent>
@@ -60,8 +61,7 @@ bool EntryBox::is_cut() const { return fontMetrics().horizontalAdvance(text()) >
 void EntryBox::fit()
 {
     if (holds_ == Holds::number) return fit_number();
-    QString const whole = !hasFocus() && is_cut() ? to_tooltip(beginning_of(text().toStdString())) : QString{};
-    if (toolTip() != whole) setToolTip(whole);
+    tell_whole(*this, !hasFocus() && is_cut() ? beginning_of(text().toStdString()) : QString{});
     update();
 }
 

@@ -1,0 +1,31 @@
+// The ring around a check box or an option, which has no room for it inside.
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+
+class QAbstractButton;
+
+namespace warhost {
+
+/// Lies above everything on a ground and follows the focus there. The mouse does not notice it.
+class FocusRing : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit FocusRing(QWidget& ground);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void follow(QWidget* focused);
+    void watch(bool on);
+    void place();
+
+    QPointer<QAbstractButton> target_;
+    QRect ring_; // on the ground
+};
+
+} // namespace warhost
