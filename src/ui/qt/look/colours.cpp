@@ -14,6 +14,9 @@ namespace {
 constexpr std::array light_sides{QColor{0x1d, 0x5c, 0xa8}, QColor{0xa0, 0x48, 0x00}};
 constexpr std::array dark_sides{QColor{0x84, 0xb6, 0xf4}, QColor{0xf3, 0xa9, 0x5f}};
 constexpr QColor light_stripe{240, 240, 240};
+constexpr QColor amber{0xe8, 0xa8, 0x14};
+constexpr QColor dark_red{0xba, 0x2a, 0x20};
+constexpr QColor light_red{0xf4, 0x7c, 0x74};
 
 QColor better_readable_on(QColor const& background)
 {
@@ -63,6 +66,10 @@ Colours colours_of(QPalette const& palette)
     QColor const away = made.text_on_strong.lightness() < highlight.lightness() ? Qt::white : Qt::black;
     made.strong = contrasting_mixture(highlight, away, made.text_on_strong, 4.7);
     made.hint = on_page(highlight, 4.6);
+    made.warning = amber;
+    made.text_on_warning = better_readable_on(made.warning);
+    made.error = made.dark ? light_red : dark_red;
+    made.text_on_error = better_readable_on(made.error);
     return made;
 }
 

@@ -35,6 +35,11 @@ struct Colours {
     QColor strong; // the button to press next, ticks, selected text
     QColor text_on_strong;
     QColor hint; // hints and links
+
+    QColor warning; // of the signs beside messages, as the next three
+    QColor text_on_warning;
+    QColor error;
+    QColor text_on_error;
 };
 
 /// Of a palette whose Window is the strip's colour, which is the application's.

@@ -3,10 +3,13 @@
 #include "ui/qt/look/colours.h"
 #include "ui/qt/look/contrast.h"
 #include "ui/qt/look/ink.h"
+#include "ui/qt/look/line_icons.h"
 #include "ui/qt/look/scale.h"
 
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QComboBox>
+#include <QDateTime>
 #include <QDialog>
 #include <QEvent>
 #include <QLineEdit>
@@ -31,6 +34,11 @@ constexpr double inner_ring_distance = 2.5; // on a strong button
 constexpr double inner_ring_width = 1;
 constexpr int indicator_size = 14;
 constexpr int label_gap = 6;
+constexpr QSize dialog_button{80, 26}; // at least
+constexpr int dialog_margin = 16;
+constexpr int dialog_rows_gap = 12;
+constexpr int dialog_columns_gap = 8;
+constexpr int message_sign = 32;
 constexpr int scroll_bar_width = 12;
 constexpr int arrow_width = 13;
 constexpr int text_margin = 3; // beside the two pixels that a box for text keeps by itself
@@ -105,13 +113,15 @@ bool has_rings_above(QWidget const* widget)
     return widget != nullptr && widget->window()->property(ringless_property).toBool();
 }
 
+bool is_dialog(QWidget const* widget) { return qobject_cast<QDialog const*>(widget) != nullptr; }
+
 bool is_strong(QStyleOption const& option, QWidget const* widget)
 {
     if (!is_in(option, QStyle::State_Enabled)) return false;
     if (widget != nullptr && widget->property(strong_property).toBool()) return true;
     auto const* const button = qstyleoption_cast<QStyleOptionButton const*>(&option);
     return button != nullptr && button->features.testFlag(QStyleOptionButton::DefaultButton) && widget != nullptr &&
-           qobject_cast<QDialog const*>(widget->window()) != nullptr;
+           is_dialog(widget->window());
 }
 
 void draw_cell(QStyleOption const& option, QPainter& painter, QWidget const* widget)
@@ -201,10 +211,20 @@ void draw_combo_box(QStyle const& style, QStyleOptionComplex const& option, QPai
                offers ? mixture(of.page, of.text, 70) : of.soft, 1.5);
 }
 
+/// Behind a scroll bar: what it scrolls.
+QColor ground_of(QWidget const* bar, QPalette const& palette)
+{
+    for (auto const* above = bar; above != nullptr; above = above->parentWidget()) {
+        if (auto const* const area = qobject_cast<QAbstractScrollArea const*>(above))
+            return area->viewport()->palette().color(area->viewport()->backgroundRole());
+    }
+    return palette.color(QPalette::Window);
+}
+
 void draw_scroll_bar(QStyle const& style, QStyleOptionComplex const& option, QPainter& painter, QWidget const* widget)
 {
     Colours const& of = colours();
-    painter.fillRect(option.rect, option.palette.color(QPalette::Window));
+    painter.fillRect(option.rect, ground_of(widget, option.palette));
     auto const* const bar = qstyleoption_cast<QStyleOptionSlider const*>(&option);
     if (bar == nullptr || bar->maximum <= bar->minimum) return;
     Pen pen{painter, widget, true};
@@ -240,6 +260,23 @@ QRect scroll_bar_part(QStyle const& style, QStyleOptionSlider const& bar, QStyle
     case QStyle::SC_ScrollBarAddPage: return stretch(start + size, length);
     default: return {};
     }
+}
+
+/// Of a bar without an end, a part that wanders to and fro by the clock.
+QRectF finished_part(QStyleOptionProgressBar const& bar)
+{
+    QRectF part = bar.rect;
+    if (bar.maximum <= bar.minimum) {
+        constexpr qint64 there_and_back = 3000; // milliseconds
+        double const passed =
+            static_cast<double>(QDateTime::currentMSecsSinceEpoch() % there_and_back) / there_and_back;
+        part.setWidth(part.width() / 4);
+        part.moveLeft(bar.rect.left() + (bar.rect.width() - part.width()) * (1 - std::abs(1 - 2 * passed)));
+        return part;
+    }
+    double const whole = double{1} * bar.maximum - bar.minimum;
+    part.setWidth(part.width() * std::clamp((bar.progress - double{1} * bar.minimum) / whole, 0.0, 1.0));
+    return part;
 }
 
 class PagePaletteFollower : public QObject {
@@ -347,12 +384,8 @@ void PageStyle::drawControl(ControlElement element, QStyleOption const* option, 
     }
     case CE_ProgressBarContents:
         if (auto const* const bar = qstyleoption_cast<QStyleOptionProgressBar const*>(option)) {
-            double const share = bar->maximum > bar->minimum ? (bar->progress - double{1} * bar->minimum) /
-                                                                   (double{1} * bar->maximum - bar->minimum)
-                                                             : 0;
-            QRectF done = option->rect;
-            done.setWidth(done.width() * std::clamp(share, 0.0, 1.0));
             Pen pen{*painter, widget, true};
+            QRectF const done = finished_part(*bar);
             if (done.width() >= done.height()) pen.fill(done, done.height() / 2, colours().ring);
         }
         return;
@@ -432,6 +465,17 @@ QRect PageStyle::subControlRect(ComplexControl control, QStyleOptionComplex cons
 int PageStyle::pixelMetric(PixelMetric metric, QStyleOption const* option, QWidget const* widget) const
 {
     auto const base = [&](int pixels) { return scale_of(widget).from_base(pixels); };
+    if (is_dialog(widget)) {
+        switch (metric) {
+        case PM_LayoutLeftMargin:
+        case PM_LayoutTopMargin:
+        case PM_LayoutRightMargin:
+        case PM_LayoutBottomMargin: return base(dialog_margin);
+        case PM_LayoutVerticalSpacing: return base(dialog_rows_gap);
+        case PM_LayoutHorizontalSpacing: return base(dialog_columns_gap);
+        default: break;
+        }
+    }
     switch (metric) {
     case PM_IndicatorWidth:
     case PM_IndicatorHeight:
@@ -440,6 +484,7 @@ int PageStyle::pixelMetric(PixelMetric metric, QStyleOption const* option, QWidg
     case PM_CheckBoxLabelSpacing:
     case PM_RadioButtonLabelSpacing: return base(label_gap);
     case PM_ScrollBarExtent: return base(scroll_bar_width);
+    case PM_MessageBoxIconSize: return base(message_sign);
     case PM_ButtonShiftHorizontal:
     case PM_ButtonShiftVertical: return 0;
     default: return QProxyStyle::pixelMetric(metric, option, widget);
@@ -454,6 +499,21 @@ int PageStyle::styleHint(StyleHint hint, QStyleOption const* option, QWidget con
     case SH_DitherDisabledText: return 0;
     default: return QProxyStyle::styleHint(hint, option, widget, data);
     }
+}
+
+QSize PageStyle::sizeFromContents(ContentsType type, QStyleOption const* option, QSize const& contents,
+                                  QWidget const* widget) const
+{
+    QSize const usual = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    if (type != CT_PushButton || widget == nullptr || !is_dialog(widget->window())) return usual;
+    Scale const scale = scale_of(widget);
+    return {std::max(usual.width(), scale.from_base(dialog_button.width())), scale.from_base(dialog_button.height())};
+}
+
+QIcon PageStyle::standardIcon(StandardPixmap which, QStyleOption const* option, QWidget const* widget) const
+{
+    QIcon const drawn = line_icon(which);
+    return drawn.isNull() ? QProxyStyle::standardIcon(which, option, widget) : drawn;
 }
 
 void make_cell(QLineEdit& box) { box.setProperty(cell_property, true); }

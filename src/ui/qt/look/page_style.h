@@ -32,6 +32,9 @@ public:
     int pixelMetric(PixelMetric metric, QStyleOption const* option, QWidget const* widget) const override;
     int styleHint(StyleHint hint, QStyleOption const* option, QWidget const* widget,
                   QStyleHintReturn* data) const override;
+    QSize sizeFromContents(ContentsType type, QStyleOption const* option, QSize const& contents,
+                           QWidget const* widget) const override;
+    QIcon standardIcon(StandardPixmap which, QStyleOption const* option, QWidget const* widget) const override;
 };
 
 /// A box without an outline, for the cells of a table.

@@ -24,6 +24,8 @@ inline constexpr Type total{13, QFont::Bold};     // of an army's modifiers
 inline constexpr Type next_step{14, QFont::DemiBold};
 inline constexpr Type result{20, QFont::Bold};
 inline constexpr Type winner{22, QFont::Bold};
+inline constexpr Type program_title{16, QFont::Bold};
+inline constexpr Type licence{11, QFont::Bold}; // its name
 
 } // namespace type
 
