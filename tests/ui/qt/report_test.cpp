@@ -3,8 +3,10 @@
 #include "ui/qt/dialogs/battle_charts.h"
 #include "ui/qt/dialogs/qt_desktop.h"
 #include "ui/qt/dialogs/report_box.h"
+#include "ui/qt/look/type.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QLabel>
 #include <QProgressBar>
 #include <QTest>
@@ -23,20 +25,65 @@ std::string words(QWidget const& box)
     return words.join("|").toStdString();
 }
 
-Tally one_tie()
+Tally tally_of(int a_wins, int ties, int b_wins)
 {
     Tally tally;
-    tally.count(tie, 0, 100);
+    while (a_wins-- > 0) tally.count(side_a_won, 3, 10);
+    while (ties-- > 0) tally.count(tie, 0, 100);
+    while (b_wins-- > 0) tally.count(side_b_won, 3, 10);
     return tally;
 }
 
-TEST(Report, shows_the_exact_odds_beside_its_text_and_around_the_bars)
+Tally one_tie() { return tally_of(0, 1, 0); }
+
+TEST(Report, shows_the_exact_odds_beside_its_text_and_on_the_bars_and_copies_its_texts)
 {
-    std::string const shown = words(ReportBox{{.text = "A  B \r\n"}, one_tie(), Odds{10, 0}, {}, nullptr});
+    ReportBox box{{.text = "A  B \r\n"}, one_tie(), Odds{10, 0}, {}, nullptr};
+    std::string const shown = words(box);
     for (char const* const text : {"A  B \n|", "In the long run: Side A wins 86.3%", "1 battle; 95 % confidence"})
         EXPECT_NE(shown.find(text), std::string::npos) << shown;
     auto const picture = [](Odds const& odds) { return CasualtyHistogram{0, one_tie(), odds, {}}.grab().toImage(); };
     EXPECT_NE(picture({0, 0}), picture({10, 0}));
+
+    box.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&box));
+    auto const copied = [&] {
+        QTest::keyClick(&box, Qt::Key_C, Qt::ControlModifier);
+        return QApplication::clipboard()->text();
+    };
+    EXPECT_TRUE(copied().contains("A  B \n") && copied().contains("95 % confidence")) << copied().toStdString();
+    box.findChild<QLabel*>()->setSelection(0, 4);
+    EXPECT_EQ(copied(), "A  B");
+}
+
+TEST(OutcomeBar, writes_each_share_in_its_part_or_below_and_no_label_over_another)
+{
+    std::tuple<Tally, int, QString> const rows[] = {
+        // the texts in the bar
+        {tally_of(0, 1, 0), 388, "Tied 100.0%"},
+        {tally_of(1, 0, 0), 388, "Side A wins 100.0%"},
+        {tally_of(2, 3, 995), 388, "Side B wins 99.5%"},
+        {tally_of(995, 3, 2), 388, "Side A wins 99.5%"},
+        {tally_of(5, 990, 5), 388, "Tied 99.0%"},
+        {tally_of(658, 40, 302), 388, "A 65.8%|B 30.2%"},
+        {tally_of(658, 40, 302), 766, "Side A wins 65.8%|Side B wins 30.2%"},
+        {tally_of(340, 320, 340), 388, "A 34.0%|Tied 32.0%|B 34.0%"},
+    };
+    for (auto const& [tally, width, written] : rows) {
+        OutcomeBar bar{tally, {}};
+        bar.setFont(QFont{"DejaVu Sans"}); // whose digits are wide
+        bar.resize(width, bar.sizeHint().height());
+        auto const labels = bar.labels();
+        QStringList inside;
+        for (auto const& label : labels) {
+            QFontMetrics const metrics{in_type(bar.font(), label.inside ? type::name : type::caption)};
+            EXPECT_LE(metrics.horizontalAdvance(label.text), label.room.width()) << label.text.toStdString();
+            EXPECT_TRUE(bar.rect().contains(label.room)) << label.text.toStdString();
+            if (label.inside) inside << label.text;
+            for (auto const& other : labels) EXPECT_TRUE(&label == &other || !label.room.intersects(other.room));
+        }
+        EXPECT_EQ(inside.join("|"), written);
+    }
 }
 
 TEST(SimulationProgress, shows_battles_percent_time_left_and_outcome_from_half_a_second_on)

@@ -13,7 +13,7 @@
 namespace warhost {
 
 /// The share of battles by the percentage that one side lost, 0 to 110: bars for the sample, with their mean marked,
-/// and an outline for the exact odds.
+/// and a mark at each height for the exact odds. The histograms of both sides have the same scale.
 class CasualtyHistogram : public QWidget {
     Q_OBJECT
 
@@ -32,12 +32,13 @@ private:
     QRect plot() const;
     int x_of(double percent) const;
     int y_of(double share) const;
+    void draw_title(QPainter& painter) const;
     void draw_axes(QPainter& painter) const;
     void draw_bars(QPainter& painter) const;
-    void draw_outline(QPainter& painter) const;
+    void draw_marks(QPainter& painter) const;
     void draw_mean(QPainter& painter) const;
 
-    QString title_;
+    int Index_;
     QString mean_text_;
     double mean_;
     std::array<double, highest_share + 1> shares_{}; // percent of the battles
@@ -46,15 +47,25 @@ private:
     int steps_ = 0;
 };
 
-/// One bar for wins and ties; the parts are told apart by pattern and label, not by colour alone.
+/// One bar for wins and ties. The parts are told apart by pattern and label, not by colour alone.
 class OutcomeBar : public QWidget {
     Q_OBJECT
 
 public:
+    /// What is written of a part: in it, or below it when it is too narrow.
+    struct Label {
+        QString text;
+        QRect room;
+        bool inside = false;
+    };
+
     /// At least one battle.
     OutcomeBar(Tally const& tally, NumberFormat const& format, QWidget* parent = nullptr);
 
     void show_tally(Tally const& tally, NumberFormat const& format);
+
+    /// Of Side A's wins, the ties, Side B's wins; no two overlap.
+    std::array<Label, 3> labels() const;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
@@ -65,10 +76,14 @@ protected:
 private:
     /// One way in which the battles ended.
     struct Part {
-        QString label;    // "Side A wins 47.5%"
-        double share = 0; // percent of the battles
-        Qt::BrushStyle pattern = Qt::NoBrush;
+        QString label;       // "Side A wins 47.5%"
+        QString short_label; // "A 47.5%"
+        double share = 0;    // percent of the battles
     };
+
+    std::array<QRect, 3> rooms() const;
+    void draw_part(QPainter& painter, std::size_t part, QRect const& room) const;
+    void draw_tick(QPainter& painter, QRect const& part, QRect const& label) const;
 
     std::array<Part, 3> parts_;
 };

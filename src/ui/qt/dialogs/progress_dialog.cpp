@@ -1,5 +1,8 @@
 #include "ui/qt/dialogs/progress_dialog.h"
 
+#include "ui/qt/dialogs/dialog_parts.h"
+#include "ui/qt/look/scale.h"
+
 #include <QCoreApplication>
 #include <QGuiApplication>
 #include <QHBoxLayout>
@@ -10,6 +13,11 @@ namespace warhost {
 namespace {
 
 constexpr int bar_steps = 1000;
+
+// Pixels of the base size.
+constexpr int dialog_width = 420;
+constexpr int bar_height = 8;
+constexpr int row_gap = 8;
 
 } // namespace
 
@@ -25,14 +33,18 @@ ProgressDialog::ProgressDialog(QWidget* window, QString const& title, QString co
     }
     setWindowTitle(title);
     setWindowModality(Qt::ApplicationModal);
-    bar_.setMinimumWidth(fontMetrics().averageCharWidth() * 50);
+    Scale const scale = scale_of(this);
+    setMinimumWidth(scale.from_base(dialog_width));
+    bar_.setFixedHeight(scale.from_base(bar_height));
     bar_.setAccessibleName(spoken);
-    column_.addWidget(&bar_);
     bar_.setTextVisible(false);
+    column_.setSpacing(scale.from_base(row_gap));
+    column_.addWidget(&bar_);
     auto* const texts = new QHBoxLayout;
     texts->addWidget(&left_);
     texts->addStretch();
     texts->addWidget(&right_);
+    make_dim(right_);
     column_.addLayout(texts);
 }
 
@@ -48,6 +60,7 @@ void ProgressDialog::show_share(double share, QString const& left, QString const
     bar_.setValue(static_cast<int>(share * bar_steps));
     left_.setText(left);
     right_.setText(right);
+    if (share < 0) bar_.update(); // what it shows moves
     show();
     // What the user does meanwhile is lost on this window, and does not wait for its end.
     QCoreApplication::processEvents();

@@ -2,6 +2,7 @@
 
 #include "ui/qt/dialogs/battle_charts.h"
 #include "ui/qt/dialogs/progress_dialog.h"
+#include "ui/qt/look/type.h"
 #include "ui/qt/widgets/text.h"
 #include "ui/simulation_report.h"
 
@@ -33,6 +34,7 @@ public:
         : ProgressDialog(window, "Simulate N Battles", "Battles fought"),
           outcome_(so_far, format)
     {
+        set_type(count_, font(), type::name);
         column().insertWidget(0, &count_);
         column().addWidget(&outcome_);
     }

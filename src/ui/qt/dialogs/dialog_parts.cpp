@@ -1,0 +1,30 @@
+#include "ui/qt/dialogs/dialog_parts.h"
+
+#include "ui/qt/look/colours.h"
+#include "ui/qt/look/scale.h"
+
+#include <QPainter>
+
+namespace warhost {
+
+Rule::Rule(Qt::Orientation orientation, QWidget* parent) : QWidget(parent)
+{
+    int const thickness = scale_of(parent).from_base(1);
+    if (orientation == Qt::Horizontal) setFixedHeight(thickness);
+    else setFixedWidth(thickness);
+}
+
+void Rule::paintEvent(QPaintEvent* /*event*/) { QPainter{this}.fillRect(rect(), colours().hair); }
+
+QLabel* selectable_text(QString const& text, char const* spoken)
+{
+    auto* const label = new QLabel{text};
+    label->setTextFormat(Qt::PlainText);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    label->setAccessibleName(spoken);
+    return label;
+}
+
+void make_dim(QLabel& label) { label.setForegroundRole(QPalette::PlaceholderText); }
+
+} // namespace warhost
