@@ -1,7 +1,9 @@
 #include "ui/qt/dialogs/about_box.h"
 
 #include "ui/desktop.h"
+#include "ui/qt/dialogs/dialog_parts.h"
 #include "ui/qt/look/scale.h"
+#include "ui/qt/look/type.h"
 #include "ui/version.h"
 
 #include <QApplication>
@@ -20,30 +22,16 @@ namespace {
 
 constexpr int client_width = 5715; // twips
 constexpr int client_height = 4335;
-constexpr double title_points = 12;
+constexpr int margin = 12; // pixels of the base size
+constexpr int gap = 8;
+constexpr int notice_margin = 8;
 constexpr int emblem_pixels = 108;
 
-QLabel* label(char const* name, char const* text = "", bool bold = false)
+QLabel* label(char const* name, char const* text = "")
 {
     auto* const made = new QLabel{text};
     made->setObjectName(name);
     made->setTextFormat(Qt::PlainText);
-    if (bold) {
-        QFont font;
-        font.setBold(true);
-        made->setFont(font);
-    }
-    return made;
-}
-
-/// A line of one pixel in one of the palette's shades.
-QWidget* line(char const* name, QPalette::ColorRole shade)
-{
-    auto* const made = new QWidget;
-    made->setObjectName(name);
-    made->setAutoFillBackground(true);
-    made->setBackgroundRole(shade);
-    made->setFixedHeight(1);
     return made;
 }
 
@@ -56,16 +44,7 @@ QLabel* emblem()
     return picIcon;
 }
 
-QLabel* title(double scale)
-{
-    auto* const lblTitle = label("lblTitle", "", true);
-    QFont font = lblTitle->font();
-    font.setPointSizeF(title_points * scale);
-    lblTitle->setFont(font);
-    return lblTitle;
-}
-
-QPlainTextEdit* notice_box(QString const& notice)
+QPlainTextEdit* notice_box(QString const& notice, Scale const& scale)
 {
     auto* const TextOGL = new QPlainTextEdit{notice};
     TextOGL->setObjectName("TextOGL");
@@ -74,6 +53,7 @@ QPlainTextEdit* notice_box(QString const& notice)
     TextOGL->setTabChangesFocus(true);
     TextOGL->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     TextOGL->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    TextOGL->document()->setDocumentMargin(scale.from_base(notice_margin));
     return TextOGL;
 }
 
@@ -120,42 +100,52 @@ void AboutBox::Form_Load()
 
 void AboutBox::arrange(QString const& notice)
 {
-    double const scale = growth(font());
-    double const base = Scale::base_twips_per_pixel;
-    setFixedSize(QSizeF{client_width / base * scale, client_height / base * scale}.toSize());
+    Scale const scale = scale_of(this);
+    setFixedSize(scale.from_twips(client_width, client_height));
 
-    auto* const TextOGL = notice_box(notice);
+    auto* const lblTitle = label("lblTitle");
+    set_type(*lblTitle, font(), type::program_title);
+    auto* const Label1 = label("Label1", "Open Gaming License Version 1.0a");
+    set_type(*Label1, font(), type::licence);
+    auto* const heads = new QVBoxLayout;
+    heads->setSpacing(scale.from_base(4));
+    heads->addSpacing(scale.from_base(10));
+    heads->addWidget(lblTitle);
+    heads->addWidget(label("lblVersion"));
+    heads->addStretch();
+    heads->addWidget(Label1);
+
+    auto* const top = new QHBoxLayout;
+    top->setSpacing(scale.from_base(margin));
+    top->addWidget(emblem(), 0, Qt::AlignTop);
+    top->addLayout(heads, 1);
+
+    auto* const TextOGL = notice_box(notice, scale);
+    auto* const etched = new QVBoxLayout;
+    etched->setSpacing(0);
+    auto* const grey = new Rule{Qt::Horizontal, this};
+    grey->setObjectName("Line1(0)");
+    auto* const white = new QWidget;
+    white->setObjectName("Line1(1)");
+    white->setFixedHeight(grey->height());
+    white->setBackgroundRole(QPalette::Base);
+    white->setAutoFillBackground(true);
+    etched->addWidget(grey);
+    etched->addWidget(white);
+
     auto* const cmdOK = new QPushButton{"OK"};
     cmdOK->setObjectName("cmdOK");
     cmdOK->setDefault(true);
     connect(cmdOK, &QPushButton::clicked, this, &QWidget::close); // Escape closes the dialog by itself
-
-    auto* const heads = new QVBoxLayout;
-    heads->setSpacing(4);
-    heads->addSpacing(6);
-    heads->addWidget(title(scale));
-    heads->addWidget(label("lblVersion"));
-    heads->addStretch();
-    heads->addWidget(label("Label1", "Open Gaming License Version 1.0a", true));
-
-    auto* const top = new QHBoxLayout;
-    top->setSpacing(12);
-    top->addWidget(emblem(), 0, Qt::AlignTop);
-    top->addLayout(heads, 1);
-
-    auto* const etched = new QVBoxLayout;
-    etched->setSpacing(0);
-    etched->addWidget(line("Line1(0)", QPalette::Mid));
-    etched->addWidget(line("Line1(1)", QPalette::Light));
-
     auto* const bottom = new QHBoxLayout;
     bottom->addWidget(label("lblDisclaimer", "Disclaimer: Use this program at your own risk."));
     bottom->addStretch();
     bottom->addWidget(cmdOK);
 
     auto* const rows = new QVBoxLayout{this};
-    rows->setContentsMargins(8, 8, 8, 8);
-    rows->setSpacing(6);
+    int const free = scale.from_base(margin);
+    rows->setContentsMargins(free, free, free, free);
+    rows->setSpacing(scale.from_base(gap));
     rows->addLayout(top);
     rows->addWidget(TextOGL, 1);
     rows->addLayout(etched);

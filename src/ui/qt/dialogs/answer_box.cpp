@@ -1,14 +1,16 @@
 #include "ui/qt/dialogs/answer_box.h"
 
+#include "ui/qt/look/scale.h"
+#include "ui/qt/look/type.h"
 #include "ui/qt/widgets/text.h"
 
-#include <QDialogButtonBox>
-#include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
 #include <QStyle>
 #include <QTextEdit>
+#include <QVBoxLayout>
 
 #include <algorithm>
 #include <array>
@@ -18,22 +20,22 @@ namespace warhost {
 
 namespace {
 
-using StandardButton = QDialogButtonBox::StandardButton;
+constexpr int message_gap = 16; // pixels of the base size
 
 struct AnswerButton {
     Buttons set;
     Answer answer;
-    StandardButton button;
+    char const* caption;
 };
 
 // From left to right; the last of a set is the answer of Escape.
 constexpr std::array answer_buttons{
-    AnswerButton{Buttons::ok, Answer::ok, StandardButton::Ok},
-    AnswerButton{Buttons::yes_no, Answer::yes, StandardButton::Yes},
-    AnswerButton{Buttons::yes_no, Answer::no, StandardButton::No},
-    AnswerButton{Buttons::abort_retry_ignore, Answer::abort, StandardButton::Abort},
-    AnswerButton{Buttons::abort_retry_ignore, Answer::retry, StandardButton::Retry},
-    AnswerButton{Buttons::abort_retry_ignore, Answer::ignore, StandardButton::Ignore},
+    AnswerButton{Buttons::ok, Answer::ok, "OK"},
+    AnswerButton{Buttons::yes_no, Answer::yes, "&Yes"},
+    AnswerButton{Buttons::yes_no, Answer::no, "&No"},
+    AnswerButton{Buttons::abort_retry_ignore, Answer::abort, "&Abort"},
+    AnswerButton{Buttons::abort_retry_ignore, Answer::retry, "&Retry"},
+    AnswerButton{Buttons::abort_retry_ignore, Answer::ignore, "&Ignore"},
 };
 
 constexpr Answer answer_of_escape(Buttons set)
@@ -46,9 +48,10 @@ constexpr Answer answer_of_escape(Buttons set)
 }
 
 /// A text edit and not a label, which would cut a word that is wider than the box.
-QTextEdit* wrapped_text(QString const& text, QSize const& screen)
+QTextEdit* wrapped_text(QString const& text, QFont const& own, QSize const& screen)
 {
     auto* const view = new QTextEdit;
+    set_type(*view, own, type::message);
     view->setReadOnly(true);
     view->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     view->setTabChangesFocus(true);
@@ -73,9 +76,10 @@ QTextEdit* wrapped_text(QString const& text, QSize const& screen)
     return view;
 }
 
-QPixmap pixmap_of(Icon icon, QStyle const& style)
+QPixmap pixmap_of(Icon icon, QWidget const& box)
 {
-    int const size = style.pixelMetric(QStyle::PM_MessageBoxIconSize);
+    QStyle const& style = *box.style();
+    int const size = style.pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, &box);
     switch (icon) {
     case Icon::exclamation: return style.standardIcon(QStyle::SP_MessageBoxWarning).pixmap(size);
     case Icon::critical: return style.standardIcon(QStyle::SP_MessageBoxCritical).pixmap(size);
@@ -92,21 +96,26 @@ AnswerBox::AnswerBox(Message const& box, QWidget* parent) : QDialog(parent), ans
     QString const text = to_qt(box.text).replace("\r\n", "\n");
     setAccessibleDescription(text);
 
-    auto* const grid = new QGridLayout{this};
-    if (QPixmap const pixmap = pixmap_of(box.icon, *style()); !pixmap.isNull()) {
-        auto* const icon = new QLabel;
-        icon->setPixmap(pixmap);
-        grid->addWidget(icon, 0, 0, Qt::AlignTop);
+    auto* const message = new QHBoxLayout;
+    message->setSpacing(scale_of(this).from_base(message_gap));
+    if (QPixmap const pixmap = pixmap_of(box.icon, *this); !pixmap.isNull()) {
+        auto* const sign = new QLabel;
+        sign->setPixmap(pixmap);
+        message->addWidget(sign, 0, Qt::AlignTop);
     }
-    grid->addWidget(wrapped_text(text, screen()->availableSize()), 0, 1);
+    message->addWidget(wrapped_text(text, font(), screen()->availableSize()), 1, Qt::AlignVCenter | Qt::AlignLeft);
 
-    auto* const buttons = new QDialogButtonBox;
-    grid->addWidget(buttons, 1, 0, 1, 2); // before there are buttons, which look for their dialog
+    auto* const buttons = new QHBoxLayout;
+    buttons->setSpacing(style()->pixelMetric(QStyle::PM_LayoutHorizontalSpacing, nullptr, this));
+    buttons->addStretch();
+    auto* const rows = new QVBoxLayout{this};
+    rows->setSpacing(scale_of(this).from_base(message_gap));
+    rows->addLayout(message);
+    rows->addLayout(buttons);
     for (auto const& row : answer_buttons) {
         if (row.set != box.buttons) continue;
-        QPushButton* const button = buttons->addButton(row.button);
-        // Buttons of this role keep their order on every desktop.
-        buttons->addButton(button, QDialogButtonBox::ActionRole);
+        auto* const button = new QPushButton{row.caption};
+        buttons->addWidget(button);
         connect(button, &QPushButton::clicked, this, [this, answer = row.answer] {
             answer_ = answer;
             accept();
@@ -115,7 +124,7 @@ AnswerBox::AnswerBox(Message const& box, QWidget* parent) : QDialog(parent), ans
         button->setDefault(true);
         button->setFocus();
     }
-    grid->setSizeConstraint(QLayout::SetFixedSize);
+    rows->setSizeConstraint(QLayout::SetFixedSize);
 }
 
 Answer AnswerBox::ask()

@@ -4,6 +4,7 @@
 #include "ui/qt/dialogs/file_chooser.h"
 #include "ui/qt/dialogs/progress_dialog.h"
 #include "ui/qt/dialogs/report_box.h"
+#include "ui/qt/look/type.h"
 #include "ui/qt/widgets/binding.h"
 #include "ui/qt/widgets/text.h"
 
@@ -12,6 +13,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QInputDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
 #include <QStandardPaths>
@@ -67,6 +69,7 @@ std::string QtDesktop::input_box(InputBox const& box)
     input.setLabelText(to_qt(box.prompt));
     input.setTextValue(to_qt(box.default_text));
     input.findChild<QLineEdit*>()->setMaxLength(longest_text);
+    set_type(*input.findChild<QLabel*>(), input.font(), type::message);
     return input.exec() == QDialog::Accepted ? input.textValue().toStdString() : std::string{};
 }
 
