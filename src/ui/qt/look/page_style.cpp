@@ -39,6 +39,7 @@ constexpr int dialog_margin = 16;
 constexpr int dialog_rows_gap = 12;
 constexpr int dialog_columns_gap = 8;
 constexpr int message_sign = 32;
+constexpr int tool_icon = 16;
 constexpr int scroll_bar_width = 12;
 constexpr int arrow_width = 13;
 constexpr int text_margin = 3; // beside the two pixels that a box for text keeps by itself
@@ -196,6 +197,22 @@ void draw_indicator(QStyleOption const& option, QPainter& painter, QWidget const
     pen.stroke({{at(0.24, 0.52), at(0.43, 0.71), at(0.77, 0.31)}}, of.text_on_strong, 1.8);
 }
 
+/// Of a tree: to the right while what is below it is hidden, else down.
+void draw_branch(QStyleOption const& option, QPainter& painter, QWidget const* widget)
+{
+    if (!is_in(option, QStyle::State_Children)) return;
+    Colours const& of = colours();
+    Pen pen{painter, widget, is_in(option, QStyle::State_Enabled)};
+    QPointF const centre = QRectF{option.rect}.center();
+    double const across = pen.length(3);
+    double const along = pen.length(1.5);
+    auto const at = [&](double x, double y) {
+        return centre + (is_in(option, QStyle::State_Open) ? QPointF{y, x} : QPointF{x, y});
+    };
+    pen.stroke({{at(-along, -across), at(along, 0), at(-along, across)}},
+               is_in(option, QStyle::State_Selected) ? of.text_on_strong : of.dim, 1.5);
+}
+
 /// An arrow that has nothing to offer is not among the option's parts.
 void draw_combo_box(QStyle const& style, QStyleOptionComplex const& option, QPainter& painter, QWidget const* widget)
 {
@@ -330,11 +347,12 @@ void PageStyle::drawPrimitive(PrimitiveElement element, QStyleOption const* opti
     case PE_PanelButtonCommand: return draw_button(*option, *painter, widget);
     case PE_IndicatorCheckBox: return draw_indicator(*option, *painter, widget, false);
     case PE_IndicatorRadioButton: return draw_indicator(*option, *painter, widget, true);
+    case PE_IndicatorBranch: return draw_branch(*option, *painter, widget);
     case PE_FrameFocusRect: return Pen{*painter, widget, true}.ring(option->rect, field_corner);
     case PE_Frame: {
         Pen pen{*painter, widget, is_in(*option, State_Enabled)};
         if (is_in(*option, State_HasFocus)) pen.ring(option->rect, 0);
-        else pen.outline(option->rect, 0, colours().soft, pen.line());
+        else if (is_in(*option, State_Sunken)) pen.outline(option->rect, 0, colours().soft, pen.line());
         return;
     }
     case PE_FrameLineEdit:
@@ -378,6 +396,13 @@ void PageStyle::drawControl(ControlElement element, QStyleOption const* option, 
                                              field_corner);
         }
         return;
+    case CE_ToolBar: {
+        Pen const pen{*painter, widget, true};
+        QRectF const room = option->rect;
+        painter->fillRect(room, colours().strip);
+        painter->fillRect(QRectF{room.left(), room.bottom() - pen.line(), room.width(), pen.line()}, colours().soft);
+        return;
+    }
     case CE_ProgressBarGroove: {
         Pen pen{*painter, widget, true};
         return pen.fill(option->rect, option->rect.height() / 2.0, colours().tie);
@@ -485,10 +510,15 @@ int PageStyle::pixelMetric(PixelMetric metric, QStyleOption const* option, QWidg
     case PM_RadioButtonLabelSpacing: return base(label_gap);
     case PM_ScrollBarExtent: return base(scroll_bar_width);
     case PM_MessageBoxIconSize: return base(message_sign);
+    case PM_ToolBarIconSize: return base(tool_icon);
+    case PM_DefaultFrameWidth:
+        if (qobject_cast<QAbstractScrollArea const*>(widget) != nullptr) return base(ring_width);
+        break;
     case PM_ButtonShiftHorizontal:
     case PM_ButtonShiftVertical: return 0;
-    default: return QProxyStyle::pixelMetric(metric, option, widget);
+    default: break;
     }
+    return QProxyStyle::pixelMetric(metric, option, widget);
 }
 
 int PageStyle::styleHint(StyleHint hint, QStyleOption const* option, QWidget const* widget,
