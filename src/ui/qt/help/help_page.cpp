@@ -1,12 +1,14 @@
 #include "ui/qt/help/help_page.h"
 
 #include "ui/qt/help/help_contents.h"
-#include "ui/qt/look/contrast.h"
+#include "ui/qt/look/colours.h"
+#include "ui/qt/look/scale.h"
+#include "ui/qt/look/type.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QEvent>
 #include <QFileInfo>
-#include <QFontInfo>
 #include <QPainter>
 #include <QScrollBar>
 #include <QUrlQuery>
@@ -23,7 +25,10 @@ constexpr int least_percent = 50;
 constexpr int largest_percent = 300;
 constexpr int percent_of_step = 10;
 constexpr int wheel_notch = 120;
-constexpr int picture_width = 640;
+
+// Pixels of the base size.
+constexpr int margin = 28;
+constexpr int measure = 504; // about 70 characters
 
 // Addresses of pages that no file holds.
 constexpr char const* notice_scheme = "notice";
@@ -42,9 +47,13 @@ HelpPage::HelpPage(QString folder, QWidget* parent) : QTextBrowser(parent), fold
     setAccessibleName("Page of the manual");
     setOpenExternalLinks(true);
     setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    document()->setDocumentMargin(14);
-    follow_palette();
+    setLineWrapMode(FixedPixelWidth);
+    setFrameShadow(Plain);
+    apply_zoom();
 }
+
+/// Of a line, in pixels; wider than the window has room for when it is narrow.
+int HelpPage::measure_width() const { return scale_of(this).from_base(measure) * percent_ / 100; }
 
 void HelpPage::show_entry(HelpEntry const& entry)
 {
@@ -87,14 +96,17 @@ QVariant HelpPage::loadResource(int type, QUrl const& name)
     return type == QTextDocument::ImageResource ? picture(resource.toByteArray()) : resource;
 }
 
-/// As wide as the manual shows its pictures: the page itself would scale them roughly.
+/// As wide as the lines: the page itself would scale it roughly.
 QImage HelpPage::picture(QByteArray const& bytes) const
 {
     QImage const whole = QImage::fromData(bytes);
-    int const width = qRound(picture_width * devicePixelRatioF());
-    if (!whole.isNull()) return whole.width() > width ? whole.scaledToWidth(width, Qt::SmoothTransformation) : whole;
-
-    QImage note{picture_width, fontMetrics().height() * 2, QImage::Format_ARGB32_Premultiplied};
+    if (!whole.isNull()) {
+        int const width = qRound(measure_width() * devicePixelRatioF());
+        QImage shown = whole.scaledToWidth(width, Qt::SmoothTransformation);
+        shown.setDevicePixelRatio(devicePixelRatioF());
+        return shown;
+    }
+    QImage note{measure_width(), fontMetrics().height() * 2, QImage::Format_ARGB32_Premultiplied};
     note.fill(Qt::transparent);
     QPainter painter{&note};
     painter.setFont(font());
@@ -117,9 +129,24 @@ void HelpPage::zoom_to_normal()
 
 void HelpPage::apply_zoom()
 {
-    QFont scaled;
-    if (percent_ != 100) scaled.setPointSizeF(QFontInfo{parentWidget()->font()}.pointSizeF() * percent_ / 100);
-    setFont(scaled);
+    Type type = type::reading;
+    type.pixels = type.pixels * percent_ / 100;
+    setFont(in_type(QApplication::font(), type));
+    fit_lines();
+    show_anew();
+}
+
+void HelpPage::fit_lines()
+{
+    int const free = scale_of(this).from_base(margin);
+    document()->setDocumentMargin(free);
+    setLineWrapColumnOrWidth(std::min(viewport()->width(), measure_width() + 2 * free));
+}
+
+void HelpPage::resizeEvent(QResizeEvent* event)
+{
+    QTextBrowser::resizeEvent(event);
+    fit_lines();
 }
 
 void HelpPage::wheelEvent(QWheelEvent* event)
@@ -133,31 +160,40 @@ void HelpPage::wheelEvent(QWheelEvent* event)
     event->accept();
 }
 
-/// The colours of a page are fixed when it is read.
-void HelpPage::follow_palette()
+/// Colours and the widths of pictures are fixed when a page is read.
+void HelpPage::show_anew()
 {
-    QColor const base = palette().color(QPalette::Base);
-    QColor const text = palette().color(QPalette::Text);
-    QColor const link = readable_colour(palette().color(QPalette::Link), base, text);
-    QColor const line = readable_colour(palette().color(QPalette::Mid), base, text);
-    QColor const band = palette().color(QPalette::AlternateBase);
+    Colours const& of = colours();
+    Scale const scale = scale_of(this);
     document()->setDefaultStyleSheet(
-        QString{"p, li, td, th { line-height: 125%; }"
-                "a[href] { color: %1; }"
-                "table[border=\"1\"] { border-collapse: collapse; border-style: solid; border-color: %2; }"
-                "th { background-color: %3; }"}
-            .arg(link.name(), line.name(), band.name()));
+        QString{"p, li { line-height: 145%; }"
+                "p, ul, ol, pre { margin-top: 0px; margin-bottom: %6px; }"
+                "h1 { font-size: x-large; font-weight: 600; margin-top: 0px; margin-bottom: %6px; }"
+                "h2 { font-size: large; font-weight: 600; margin-top: %7px; margin-bottom: %5px; }"
+                "h3 { font-size: medium; font-weight: 600; margin-top: %6px; margin-bottom: %5px; }"
+                "a[href] { color: %1; text-decoration: none; }"
+                "table { border-collapse: collapse; border-style: none; margin-top: %6px; margin-bottom: %6px; }"
+                "td, th { line-height: 130%; padding-left: %5px; padding-right: %8px; padding-top: %5px;"
+                " padding-bottom: 0px; border-bottom-width: %9px; border-bottom-style: solid;"
+                " border-bottom-color: %2; }"
+                "th { color: %3; border-bottom-color: %4; }"}
+            .arg(of.hint.name(), of.hair.name(), of.dim.name(), of.firm.name())
+            .arg(scale.from_base(4))
+            .arg(scale.from_base(8))
+            .arg(scale.from_base(24))
+            .arg(scale.from_base(12))
+            .arg(scale.from_base(1)));
+    if (source().isEmpty()) return;
+    int const place = verticalScrollBar()->value();
+    reload();
+    verticalScrollBar()->setValue(place);
 }
 
 void HelpPage::changeEvent(QEvent* event)
 {
     QTextBrowser::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange) {
-        int const place = verticalScrollBar()->value();
-        follow_palette();
-        reload();
-        verticalScrollBar()->setValue(place);
-    }
+    if (event->type() == QEvent::PaletteChange) show_anew();
+    if (event->type() == QEvent::ApplicationFontChange) apply_zoom();
 }
 
 } // namespace warhost

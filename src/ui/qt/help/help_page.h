@@ -25,13 +25,16 @@ public:
 protected:
     QVariant loadResource(int type, QUrl const& name) override;
     void wheelEvent(QWheelEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
     QString notice(QUrl const& name) const;
     QImage picture(QByteArray const& bytes) const;
-    void follow_palette();
+    int measure_width() const;
     void apply_zoom();
+    void fit_lines();
+    void show_anew();
 
     QString folder_;
     int percent_ = 100;

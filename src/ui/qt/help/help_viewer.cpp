@@ -2,12 +2,14 @@
 
 #include "ui/qt/help/find_bar.h"
 #include "ui/qt/help/help_page.h"
+#include "ui/qt/look/page_style.h"
 #include "ui/qt/look/scale.h"
 
 #include <QAction>
 #include <QMenuBar>
 #include <QScreen>
 #include <QSplitter>
+#include <QStyle>
 #include <QToolBar>
 #include <QToolButton>
 #include <QTreeWidget>
@@ -15,6 +17,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 namespace warhost {
@@ -24,15 +27,17 @@ namespace {
 // At the base font; a larger font makes the window larger, as far as the screen goes.
 constexpr QSize base_size{960, 680};
 constexpr int base_tree_width = 260;
-constexpr int row_padding = 7; // above and below a title together
+constexpr int indentation = 14;
+constexpr int row_padding = 11; // above and below a title together
 
-void add_to_bar(QToolBar& bar, QAction* action, char const* spoken, Qt::ArrowType arrow = Qt::NoArrow)
+void add_to_bar(QToolBar& bar, QAction* action, char const* spoken, std::optional<QStyle::StandardPixmap> icon = {})
 {
+    if (icon) action->setIcon(bar.style()->standardIcon(*icon));
+    action->setIconVisibleInMenu(false);
     bar.addAction(action);
     auto* const button = qobject_cast<QToolButton*>(bar.widgetForAction(action));
     button->setAccessibleName(spoken);
     button->setFocusPolicy(Qt::TabFocus);
-    if (arrow != Qt::NoArrow) button->setArrowType(arrow);
 }
 
 } // namespace
@@ -65,6 +70,9 @@ void HelpViewer::arrange()
     tree_->setAccessibleName("Contents of the manual");
     tree_->setHeaderHidden(true);
     tree_->setUniformRowHeights(true);
+    tree_->setFrameShadow(QFrame::Plain);
+    tree_->viewport()->setBackgroundRole(QPalette::Window);
+    tree_->setIndentation(scale_of(this).from_base(indentation));
 
     auto* const side = new QWidget;
     auto* const column = new QVBoxLayout{side};
@@ -75,6 +83,8 @@ void HelpViewer::arrange()
 
     auto* const splitter = new QSplitter;
     splitter->setObjectName("helpSplitter");
+    follow_page_palette(*splitter);
+    splitter->setAutoFillBackground(true);
     splitter->addWidget(tree_);
     splitter->addWidget(side);
     splitter->setStretchFactor(1, 1);
@@ -154,9 +164,9 @@ void HelpViewer::make_page_actions(QToolBar& bar)
     menu.addSeparator();
     add_action(menu, "helpClose", "C&lose", {QKeySequence{"Ctrl+W"}}, [this] { close(); });
 
-    add_to_bar(bar, back, "Back", Qt::LeftArrow);
-    add_to_bar(bar, forward, "Forward", Qt::RightArrow);
-    add_to_bar(bar, contents, "Contents");
+    add_to_bar(bar, back, "Back", QStyle::SP_ArrowBack);
+    add_to_bar(bar, forward, "Forward", QStyle::SP_ArrowForward);
+    add_to_bar(bar, contents, "Contents", QStyle::SP_FileDialogListView);
     back->setEnabled(false);
     forward->setEnabled(false);
     connect(page_, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
@@ -172,7 +182,7 @@ void HelpViewer::make_find_actions(QToolBar& bar)
                [this] { find_bar_->find_next(); });
     add_action(menu, "helpFindPrevious", "Find &Previous", {QKeySequence{"Shift+F3"}, QKeySequence{"Ctrl+Shift+G"}},
                [this] { find_bar_->find_previous(); });
-    add_to_bar(bar, find, "Find in the page");
+    add_to_bar(bar, find, "Find in the page", QStyle::SP_FileDialogContentsView);
 }
 
 void HelpViewer::make_view_actions(QToolBar& bar)
