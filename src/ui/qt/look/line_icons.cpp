@@ -29,6 +29,14 @@ Drawing drawing_of(QStyle::StandardPixmap which)
     switch (which) {
     case QStyle::SP_ArrowBack: return {{{{14, 8}, {2.5, 8}}, {{7.5, 3}, {2.5, 8}, {7.5, 13}}}, {}};
     case QStyle::SP_ArrowForward: return {{{{2, 8}, {13.5, 8}}, {{8.5, 3}, {13.5, 8}, {8.5, 13}}}, {}};
+    case QStyle::SP_FileDialogToParent: return {{{{8, 14}, {8, 2.5}}, {{3, 7.5}, {8, 2.5}, {13, 7.5}}}, {}};
+    case QStyle::SP_FileDialogNewFolder:
+        return {{{{1.5, 13}, {1.5, 3}, {6, 3}, {7.5, 5}, {14.5, 5}, {14.5, 13}, {1.5, 13}},
+                 {{8, 7}, {8, 11}},
+                 {{6, 9}, {10, 9}}},
+                {}};
+    case QStyle::SP_FileDialogDetailedView:
+        return {{{{1.5, 3.5}, {14.5, 3.5}}, {{1.5, 8}, {14.5, 8}}, {{1.5, 12.5}, {14.5, 12.5}}}, {}};
     case QStyle::SP_FileDialogListView: {
         Drawing list;
         for (double const y : {3.5, 8.0, 12.5}) {

@@ -12,11 +12,14 @@
 #include <QDateTime>
 #include <QDialog>
 #include <QEvent>
+#include <QFrame>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPushButton>
 #include <QStyleOption>
+#include <QTextCharFormat>
+#include <QToolButton>
 
 namespace warhost {
 
@@ -348,7 +351,10 @@ void PageStyle::drawPrimitive(PrimitiveElement element, QStyleOption const* opti
     case PE_IndicatorCheckBox: return draw_indicator(*option, *painter, widget, false);
     case PE_IndicatorRadioButton: return draw_indicator(*option, *painter, widget, true);
     case PE_IndicatorBranch: return draw_branch(*option, *painter, widget);
-    case PE_FrameFocusRect: return Pen{*painter, widget, true}.ring(option->rect, field_corner);
+    case PE_FrameFocusRect: {
+        bool const tool = qobject_cast<QToolButton const*>(widget) != nullptr; // whose own rectangle cuts the icon
+        return Pen{*painter, widget, true}.ring(tool ? widget->rect() : option->rect, field_corner);
+    }
     case PE_Frame: {
         Pen pen{*painter, widget, is_in(*option, State_Enabled)};
         if (is_in(*option, State_HasFocus)) pen.ring(option->rect, 0);
@@ -512,7 +518,7 @@ int PageStyle::pixelMetric(PixelMetric metric, QStyleOption const* option, QWidg
     case PM_MessageBoxIconSize: return base(message_sign);
     case PM_ToolBarIconSize: return base(tool_icon);
     case PM_DefaultFrameWidth:
-        if (qobject_cast<QAbstractScrollArea const*>(widget) != nullptr) return base(ring_width);
+        if (qobject_cast<QFrame const*>(widget) != nullptr) return base(ring_width);
         break;
     case PM_ButtonShiftHorizontal:
     case PM_ButtonShiftVertical: return 0;
@@ -526,9 +532,19 @@ int PageStyle::styleHint(StyleHint hint, QStyleOption const* option, QWidget con
 {
     switch (hint) {
     case SH_EtchDisabledText:
-    case SH_DitherDisabledText: return 0;
-    default: return QProxyStyle::styleHint(hint, option, widget, data);
+    case SH_DitherDisabledText:
+    case SH_DialogButtonBox_ButtonsHaveIcons: return 0;
+    case SH_TextControl_FocusIndicatorTextCharFormat: // around a link
+        if (auto* const answer = qstyleoption_cast<QStyleHintReturnVariant*>(data)) {
+            QTextCharFormat format;
+            format.setProperty(QTextFormat::OutlinePen, QPen{colours().ring, scale_of(widget).factor() * ring_width});
+            answer->variant = format;
+            return 1;
+        }
+        break;
+    default: break;
     }
+    return QProxyStyle::styleHint(hint, option, widget, data);
 }
 
 QSize PageStyle::sizeFromContents(ContentsType type, QStyleOption const* option, QSize const& contents,
