@@ -55,7 +55,7 @@ QTextEdit* wrapped_text(QString const& text, QFont const& own, QSize const& scre
     view->setReadOnly(true);
     view->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     view->setTabChangesFocus(true);
-    view->setFrameShape(QFrame::NoFrame);
+    view->setFrameStyle(QFrame::StyledPanel | QFrame::Plain); // the ring of the focus
     view->viewport()->setAutoFillBackground(false);
     view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     view->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
@@ -72,7 +72,9 @@ QTextEdit* wrapped_text(QString const& text, QFont const& own, QSize const& scre
     bool const scrolls = height > screen.height() / 2;
     int const bar = scrolls ? view->style()->pixelMetric(QStyle::PM_ScrollBarExtent) : 0;
     view->setVerticalScrollBarPolicy(scrolls ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
-    view->setFixedSize(static_cast<int>(document.textWidth()) + bar, scrolls ? screen.height() / 2 : height);
+    int const frame = 2 * view->frameWidth();
+    view->setFixedSize(static_cast<int>(document.textWidth()) + bar + frame,
+                       (scrolls ? screen.height() / 2 : height) + frame);
     return view;
 }
 

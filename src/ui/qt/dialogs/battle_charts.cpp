@@ -321,7 +321,7 @@ void OutcomeBar::draw_part(QPainter& painter, std::size_t part, QRect const& roo
     QColor const fill = tied ? colours().tie : colours().side.at(part / 2);
     painter.fillRect(room, fill);
     if (part == 2) {
-        painter.setPen(QPen{mixture(fill, colours().page, 16), scale.factor() * hatch_width});
+        painter.setPen(QPen{mixture(fill, colours().page, 12), scale.factor() * hatch_width});
         double const high = room.height();
         for (double x = room.left() - high; x < room.right() + 1; x += scale.factor() * hatch_step)
             painter.drawLine(QLineF{x, high, x + high, 0});

@@ -21,6 +21,8 @@ QLabel* selectable_text(QString const& text, char const* spoken)
     auto* const label = new QLabel{text};
     label->setTextFormat(Qt::PlainText);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    label->setFrameStyle(QFrame::StyledPanel | QFrame::Plain); // the ring of the focus
+    label->setIndent(0);
     label->setAccessibleName(spoken);
     return label;
 }

@@ -46,7 +46,7 @@ ReportBox::ReportBox(Message const& report, Tally const& tally, Odds const& odds
     top->addWidget(new Rule{Qt::Vertical, this});
     top->addLayout(pictures(tally, odds, format));
     auto* const odds_lines = new QVBoxLayout;
-    odds_lines->setSpacing(scale_of(this).from_base(4));
+    odds_lines->setSpacing(0);
     odds_lines->addWidget(long_run);
     odds_lines->addWidget(sample);
     auto* const bottom = new QHBoxLayout;
@@ -73,7 +73,7 @@ QLayout* ReportBox::pictures(Tally const& tally, Odds const& odds, NumberFormat 
     column->setSpacing(scale_of(this).from_base(8));
     column->addWidget(new OutcomeBar{tally, format});
     auto* const histograms = new QHBoxLayout; // side by side, so that the whole fits a small screen
-    histograms->setSpacing(column->spacing());
+    histograms->setSpacing(scale_of(this).from_base(6));
     for (int const Index : {0, 1}) histograms->addWidget(new CasualtyHistogram{Index, tally, odds, format});
     column->addLayout(histograms);
     return column;
