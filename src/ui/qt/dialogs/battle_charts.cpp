@@ -25,7 +25,6 @@ constexpr int percent_marks = 10; // along the lower axis
 constexpr QSize histogram_size{378, 260};
 constexpr QRect plot_room{36, 44, 3 * (highest_share + 1), 178}; // two of a bar and one between, for each percent
 constexpr int title_height = 20;
-constexpr double title_mark = 8.5;
 constexpr int title_gap = 7;
 constexpr int mean_top = 27;
 constexpr int percentages_top = 6; // below the plot
@@ -146,7 +145,7 @@ int CasualtyHistogram::y_of(double share) const
 void CasualtyHistogram::draw_title(QPainter& painter) const
 {
     Scale const scale = scale_of(this);
-    int const mark = scale.from_base(title_mark);
+    int const mark = scale.from_base(mark_size);
     QRect room{0, 0, width(), scale.from_base(title_height)};
     QColor const side = colours().side.at(static_cast<std::size_t>(Index_));
     draw_side_mark(painter, Index_, QRect{1, (room.height() - mark) / 2, mark, mark}, side);
@@ -170,7 +169,7 @@ void CasualtyHistogram::draw_axes(QPainter& painter) const
     painter.setFont(font());
     for (int mark = steps_; mark >= 0; --mark) {
         int const y = y_of(mark * step_);
-        painter.fillRect(area.left(), y, area.width(), scale.from_base(1), mark > 0 ? colours().hair : colours().firm);
+        painter.fillRect(area.left(), y, area.width(), scale.line(), mark > 0 ? colours().hair : colours().firm);
         painter.setPen(colours().dim);
         painter.drawText(QRect{0, y - line / 2, area.left() - scale.from_base(label_gap), line},
                          Qt::AlignRight | Qt::AlignVCenter, percent_label(mark * step_));
@@ -178,7 +177,7 @@ void CasualtyHistogram::draw_axes(QPainter& painter) const
     int const bottom = area.bottom() + 1;
     for (int percent = 0; percent <= highest_share; percent += percent_marks) {
         int const x = x_of(percent);
-        painter.fillRect(x, bottom, scale.from_base(1), scale.from_base(tick_length), colours().firm);
+        painter.fillRect(x, bottom, scale.line(), scale.from_base(tick_length), colours().firm);
         painter.drawText(QRect{x - line * 2, bottom + scale.from_base(percentages_top), line * 4, line},
                          Qt::AlignHCenter, QString::number(percent));
     }
@@ -207,7 +206,7 @@ void CasualtyHistogram::draw_marks(QPainter& painter) const
         int const left = x_of(percent - 0.5);
         int const top = y_of(exact_.at(static_cast<std::size_t>(percent)));
         if (top < bottom)
-            painter.fillRect(left, top, x_of(percent + 0.5) - left, scale_of(this).from_base(1), colours().text);
+            painter.fillRect(left, top, x_of(percent + 0.5) - left, scale_of(this).line(), colours().text);
     }
 }
 
@@ -216,7 +215,7 @@ void CasualtyHistogram::draw_mean(QPainter& painter) const
     Scale const scale = scale_of(this);
     int const x = x_of(mean_);
     int const top = scale.from_base(mean_top);
-    painter.setPen(QPen{colours().text, static_cast<double>(scale.from_base(1)), Qt::DashLine, Qt::FlatCap});
+    painter.setPen(QPen{colours().text, static_cast<double>(scale.line()), Qt::DashLine, Qt::FlatCap});
     painter.drawLine(x, top, x, plot().bottom());
     painter.setFont(in_type(font(), type::caption));
     QString const label = "mean " + mean_text_ + "%";
@@ -335,7 +334,7 @@ void OutcomeBar::draw_tick(QPainter& painter, QRect const& part, QRect const& la
     double const from = part.center().x() + 0.5;
     double const to = std::clamp<double>(from, label.left() + 0.5, label.right() + 0.5);
     double const middle = (part.bottom() + 1 + label.top()) / 2 + 0.5;
-    painter.setPen(QPen{colours().firm, static_cast<double>(scale_of(this).from_base(1))});
+    painter.setPen(QPen{colours().firm, static_cast<double>(scale_of(this).line())});
     painter.drawPolyline(
         QPolygonF{{{from, part.bottom() + 1.0}, {from, middle}, {to, middle}, {to, label.top() + 0.0}}});
 }

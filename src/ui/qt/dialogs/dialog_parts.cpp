@@ -9,7 +9,7 @@ namespace warhost {
 
 Rule::Rule(Qt::Orientation orientation, QWidget* parent) : QWidget(parent)
 {
-    int const thickness = scale_of(parent).from_base(1);
+    int const thickness = scale_of(parent).line();
     if (orientation == Qt::Horizontal) setFixedHeight(thickness);
     else setFixedWidth(thickness);
 }
@@ -26,7 +26,5 @@ QLabel* selectable_text(QString const& text, char const* spoken)
     label->setAccessibleName(spoken);
     return label;
 }
-
-void make_dim(QLabel& label) { label.setForegroundRole(QPalette::PlaceholderText); }
 
 } // namespace warhost

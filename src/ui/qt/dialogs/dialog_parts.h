@@ -19,7 +19,4 @@ protected:
 /// A plain text that can be selected and copied. spoken: its name for a screen reader.
 QLabel* selectable_text(QString const& text, char const* spoken);
 
-/// Draws a label's text in the colour of what matters less.
-void make_dim(QLabel& label);
-
 } // namespace warhost

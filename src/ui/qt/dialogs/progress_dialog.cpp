@@ -1,6 +1,6 @@
 #include "ui/qt/dialogs/progress_dialog.h"
 
-#include "ui/qt/dialogs/dialog_parts.h"
+#include "ui/qt/look/ink.h"
 #include "ui/qt/look/scale.h"
 
 #include <QCoreApplication>
@@ -44,7 +44,7 @@ ProgressDialog::ProgressDialog(QWidget* window, QString const& title, QString co
     texts->addWidget(&left_);
     texts->addStretch();
     texts->addWidget(&right_);
-    make_dim(right_);
+    set_ink(right_, Ink::dim);
     column_.addLayout(texts);
 }
 

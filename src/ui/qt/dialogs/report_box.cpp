@@ -2,6 +2,7 @@
 
 #include "ui/qt/dialogs/battle_charts.h"
 #include "ui/qt/dialogs/dialog_parts.h"
+#include "ui/qt/look/ink.h"
 #include "ui/qt/look/scale.h"
 #include "ui/qt/look/type.h"
 #include "ui/qt/widgets/text.h"
@@ -37,7 +38,7 @@ ReportBox::ReportBox(Message const& report, Tally const& tally, Odds const& odds
     auto* const result = text(report.text, "Report", type::reading);
     auto* const long_run = text(long_run_text(odds, format), "Exact odds", type::odds);
     auto* const sample = text(sample_text(tally, format), "How far the sample may be off", type::plain);
-    make_dim(*sample);
+    set_ink(*sample, Ink::dim);
 
     auto* const top = new QHBoxLayout;
     int const gap = scale_of(this).from_base(12);

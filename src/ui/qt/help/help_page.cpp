@@ -182,7 +182,7 @@ void HelpPage::show_anew()
             .arg(scale.from_base(8))
             .arg(scale.from_base(24))
             .arg(scale.from_base(12))
-            .arg(scale.from_base(1)));
+            .arg(scale.line()));
     if (source().isEmpty()) return;
     int const place = verticalScrollBar()->value();
     reload();

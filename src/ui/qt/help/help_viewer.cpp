@@ -83,13 +83,13 @@ void HelpViewer::arrange()
 
     auto* const splitter = new QSplitter;
     splitter->setObjectName("helpSplitter");
-    follow_page_palette(*splitter);
     splitter->setAutoFillBackground(true);
     splitter->addWidget(tree_);
     splitter->addWidget(side);
     splitter->setStretchFactor(1, 1);
     splitter->setChildrenCollapsible(false);
     setCentralWidget(splitter);
+    follow_page_palette(*splitter);
 
     double const scale = growth(font());
     QSize const room = screen()->availableSize();
