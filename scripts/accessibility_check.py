@@ -120,7 +120,7 @@ class Window:
         self.shows("Total number of soldiers", "12", "typing")
         self.named("Unit 2, soldiers", "text").queryEditableText().setTextContents("30")
         self.shows("Total number of soldiers", "42", "setting a text over the bus")
-        for role, name, total in (("check box", "Flushed with victory (+1)", "21"),
+        for role, name, total in (("check box", "After two natural 20s (+1)", "21"),
                                   ("radio button", "Equipment Quality: Poor (-2)", "19")):  # 20 for the numbers
             node = self.named(name, role)
             self.press(node, space)
