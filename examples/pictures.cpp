@@ -77,7 +77,6 @@ int main(int argc, char* argv[])
     };
     load(tab_side_b, "split_tusk.Army");
     load(tab_side_a, "korrins_anvil.Army");
-    form.chkMisc(1).set_state(1);
     desktop.take(window, "army_screen");
 
     form.TabStrip.choose(tab_combat);

@@ -15,9 +15,11 @@ for source in fuzz/*_fuzz.cpp; do
     target=$(basename "$source" _fuzz.cpp)
     learnt=build/fuzz/learnt/$target
     mkdir -p "$learnt"
+    seeds=("fuzz/corpus/$target")
+    [ "$target" != army ] || seeds+=(data/armies)
     printf 'Fuzzing %s for %s seconds\n' "$target" "$1"
     if ! "build/fuzz/bin/${target}_fuzz" -max_total_time="$1" -max_len=70000 -timeout=5 -rss_limit_mb=2048 \
-        -artifact_prefix="$learnt/" "$learnt" "fuzz/corpus/$target" 2>"$learnt.log"; then
+        -artifact_prefix="$learnt/" "$learnt" "${seeds[@]}" 2>"$learnt.log"; then
         tail -40 "$learnt.log"
         exit 1
     fi
