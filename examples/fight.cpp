@@ -1,12 +1,16 @@
-// fight ARMY_A ARMY_B [SEED]: a battle between two army files in the terminal, on the form without a screen.
+// A battle between two army files in the terminal, on the form without a screen.
 
 #include "army/modifier_options.h"
+#include "base/failure.h"
+#include "files/army_format.h"
+#include "files/whole_file.h"
 #include "ui/main.h"
 #include "ui/rich_text_reader.h"
 #include "ui/simulation_report.h"
 
 #include <charconv>
 #include <chrono>
+#include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 #include <filesystem>
@@ -21,10 +25,39 @@ namespace {
 
 using namespace warhost;
 
-std::string with_plain_line_ends(std::string text)
+constexpr std::string_view usage = "Usage: fight ARMY_A ARMY_B [SEED]\n";
+constexpr std::string_view help = "\n"
+                                  "Loads two .Army files as Side A and Side B, prints both armies, fights 1000\n"
+                                  "battles and prints the odds, then fights one battle, applies its casualties and\n"
+                                  "prints the survivors. No file is changed.\n"
+                                  "\n"
+                                  "SEED is a whole number from 0 to 18446744073709551615. The same seed gives the\n"
+                                  "same battles; without one, the clock decides.\n";
+
+constexpr std::size_t columns = 80;
+
+/// Lines break at blanks to fit the columns where the words allow it.
+std::string wrapped(std::string text)
 {
-    std::erase(text, '\r');
+    std::size_t line = 0;
+    std::size_t blank = 0;
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        if (text[at] == '\n') {
+            line = at + 1;
+        } else if (text[at] == ' ') {
+            blank = at;
+        } else if (at - line >= columns && blank > line) {
+            text[blank] = '\n';
+            line = blank + 1;
+        }
+    }
     return text;
+}
+
+[[noreturn]] void stop(std::string_view reason)
+{
+    std::cerr << "fight: " << reason << '\n';
+    std::exit(EXIT_FAILURE);
 }
 
 /// Answers every question as the command line says; an error ends the program.
@@ -37,31 +70,19 @@ public:
 
     Answer message_box(Message const& box) override
     {
-        std::string const text = with_plain_line_ends(box.text);
-        if (box.buttons == Buttons::abort_retry_ignore) {
-            // What follows the empty line tells of buttons that are not here.
-            std::cerr << text.substr(0, text.find("\n\n") + 1);
-            end_program();
-        }
-        if (loading_) {
-            std::cerr << path << ": " << text << '\n';
-            end_program();
-        }
+        std::string text = box.text;
+        std::erase(text, '\r');
+        if (box.buttons == Buttons::abort_retry_ignore) stop(text);
         (box.icon == Icon::exclamation ? std::cerr : std::cout) << text << '\n';
         return Answer::ok;
     }
     void show_report(Message const& report, Tally const& /*tally*/, Odds const& odds) override
     {
         message_box(report);
-        std::cout << long_run_text(odds, number_format()) << '\n';
+        std::cout << wrapped(long_run_text(odds, number_format())) << "\n\n";
     }
     std::string input_box(InputBox const& box) override { return box.default_text; }
-    std::optional<std::string> file_dialog(FileDialog const& /*dialog*/) override
-    {
-        loading_ = true;
-        return path;
-    }
-    void loaded() { loading_ = false; }
+    std::optional<std::string> file_dialog(FileDialog const& /*dialog*/) override { return path; }
 
     bool minimized() override { return true; }
     ClientArea client_area() override { return {}; }
@@ -83,7 +104,6 @@ public:
 
 private:
     char const* program_;
-    bool loading_ = false;
 };
 
 std::string plain(std::string const& document)
@@ -96,12 +116,28 @@ std::string plain(std::string const& document)
     return text;
 }
 
+/// Ends the program when the file is not an army; the form's message would not name the file.
+void check_army(std::string const& path)
+{
+    std::string bytes;
+    try {
+        bytes = read_file(path);
+    } catch (Failure const& failure) {
+        stop(failure.text);
+    }
+    try {
+        static_cast<void>(decode_army(bytes));
+    } catch (Failure const& failure) {
+        stop(path + ": " + failure.text);
+    }
+}
+
 void load(Main& form, Terminal& terminal, int side, char const* path)
 {
+    check_army(path);
     form.TabStrip.choose(side);
     terminal.path = path;
     form.cmdLoadArmy.press();
-    terminal.loaded();
 }
 
 void print_units(Main& form)
@@ -138,11 +174,11 @@ void print_battle(Main& form)
     std::cout << "Side A gets " << form.txtResult(0).text() << ", Side B gets " << form.txtResult(1).text()
               << "\nWinner: " << form.lblWinner.caption() << " by " << form.lblWinBy.caption() << " points\n\n"
               << "Loser's casualties: " << form.txtLoserCasualty.text() << " percent\n"
-              << plain(form.txtBattleResults.document()) << "\n\n"
+              << wrapped(plain(form.txtBattleResults.document())) << "\n\n"
               << "Victor's casualty roll " << form.txtVictorCasRoll.text() << ", range " << form.lblCasRange.caption()
               << ": " << form.txtVictorCasPercent.text() << "% of loser's " << form.lblLoserPercent.caption() << " is "
               << form.txtVictorCas.text() << "%\n"
-              << plain(form.txtVictorDesc.document()) << "\n\n";
+              << wrapped(plain(form.txtVictorDesc.document())) << "\n\n";
 }
 
 void print_losses(Main& form, int Index)
@@ -178,19 +214,27 @@ std::uint64_t seed_of_the_clock()
     return static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch().count());
 }
 
+/// The exit status when nothing else failed.
+int written()
+{
+    if (!std::cout.flush()) stop("The output could not be written.");
+    return EXIT_SUCCESS;
+}
+
 } // namespace
 
 int main(int argument_count, char** arguments)
 {
+    if (argument_count == 2 && std::string_view{arguments[1]} == "--help") {
+        std::cout << usage << help;
+        return written();
+    }
     if (argument_count < 3 || argument_count > 4) {
-        std::cerr << "Usage: fight ARMY_A ARMY_B [SEED]\n";
+        std::cerr << usage << "fight --help explains more.\n";
         return EXIT_FAILURE;
     }
     auto const seed = argument_count == 4 ? seed_of(arguments[3]) : std::optional{seed_of_the_clock()};
-    if (!seed) {
-        std::cerr << "SEED is a whole number from 0 to 18446744073709551615, not \"" << arguments[3] << "\"\n";
-        return EXIT_FAILURE;
-    }
+    if (!seed) stop("SEED is a whole number from 0 to 18446744073709551615, not \"" + std::string{arguments[3]} + '"');
     Generator generator{*seed};
     Terminal terminal{arguments[0]};
     Main form{terminal, generator};
@@ -201,6 +245,7 @@ int main(int argument_count, char** arguments)
     print_army(form, tab_side_b);
 
     form.TabStrip.choose(tab_combat);
+    form.cmdSimulate.press();
     form.cmdRollAll.press();
     print_battle(form);
     if (form.chkPlus5.state() == 1 || form.chkMinus5.state() == 1) {
@@ -213,7 +258,5 @@ int main(int argument_count, char** arguments)
     for (int const Index : {0, 1}) form.cmdApplyCasualties(Index).press();
     for (int const Index : {0, 1}) print_survivors(form, Index);
 
-    form.TabStrip.choose(tab_combat);
-    form.cmdSimulate.press();
-    return std::cout.flush() ? EXIT_SUCCESS : EXIT_FAILURE;
+    return written();
 }
