@@ -42,7 +42,7 @@ QList<QWidget*> about_boxes()
 
 } // namespace
 
-TEST(Manual, every_entry_has_its_page_and_anchor_and_every_row_of_the_panel_its_topic)
+TEST(Manual, every_entry_and_link_has_its_page_and_anchor_and_every_row_its_topic)
 {
     auto const entries = read_help_contents(manual);
     ASSERT_FALSE(entries.empty());
@@ -51,6 +51,13 @@ TEST(Manual, every_entry_has_its_page_and_anchor_and_every_row_of_the_panel_its_
         auto const page = bytes_of(manual + "/" + entry.page);
         EXPECT_FALSE(page.isEmpty());
         EXPECT_TRUE(entry.anchor.isEmpty() || page.contains("name=\"" + entry.anchor.toUtf8() + "\""));
+        for (auto const& link : QString{page}.split("href=\"").mid(1)) {
+            auto const target = link.section('"', 0, 0);
+            auto const anchor = target.section('#', 1);
+            auto const its_page = target.startsWith('#') ? page : bytes_of(manual + "/" + target.section('#', 0, 0));
+            EXPECT_TRUE(its_page.contains(anchor.isEmpty() ? "<html" : "name=\"" + anchor.toUtf8() + "\""))
+                << target.toStdString();
+        }
     }
     ModifierList list{bytes_of(data_folder + "/modif.txt").toStdString()};
     int rows = 0;
@@ -113,7 +120,7 @@ TEST(AboutBox, is_one_tells_version_and_licence_and_closes_by_enter_and_escape)
         ASSERT_EQ(about_boxes().size(), 1);
         auto& box = *about_boxes().front();
         EXPECT_EQ(box.windowTitle(), "About Warhost");
-        EXPECT_EQ(box.findChild<QLabel*>("lblVersion")->text(), "Version 1.5.21");
+        EXPECT_EQ(box.findChild<QLabel*>("lblVersion")->text(), "Version " WARHOST_VERSION);
         EXPECT_FALSE(box.findChild<QLabel*>("picIcon")->pixmap().isNull());
         auto* const licence = box.findChild<QPlainTextEdit*>("TextOGL");
         EXPECT_TRUE(licence->toPlainText().contains("15. COPYRIGHT NOTICE"));
