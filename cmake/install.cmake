@@ -1,22 +1,18 @@
-# What is installed and where. The project's version is the release's; its date and notes come from CHANGELOG.md.
+# What is installed and where.
 include(GNUInstallDirs)
 set(from ${CMAKE_SOURCE_DIR}/data)
 set(made ${CMAKE_BINARY_DIR}/linux)
 
-# The release.
-set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS CHANGELOG.md LICENSE ${from}/about.txt)
-file(READ CHANGELOG.md newest)
-string(REGEX REPLACE "^# Changes\n+## " "" newest "${newest}")
-string(REGEX REPLACE "\n+## .*|\n+$" "" newest "${newest}")
-if(NOT newest MATCHES "^${PROJECT_VERSION} \\(([0-9-]+)\\)\n(.+)")
-    message(FATAL_ERROR "CHANGELOG.md must begin with the project's version: ## ${PROJECT_VERSION} (YEAR-MONTH-DAY)")
-endif()
-set(release_date ${CMAKE_MATCH_1})
-set(notes "${CMAKE_MATCH_2}")
-string(REPLACE "&" "&amp;" xml_notes "${notes}")
-string(REPLACE "<" "&lt;" xml_notes "${xml_notes}")
-string(REGEX REPLACE "\n- ([^\n]+(\n  [^\n]+)*)" "<li>\\1</li>\n" xml_notes "${xml_notes}")
+# The releases, for the software catalogue.
+set(catalogue_releases)
+foreach(release IN LISTS releases)
+    html_items("${release_notes_${release}}" items)
+    string(APPEND catalogue_releases
+        "    <release version=\"${release}\" date=\"${release_date_${release}}\">\n"
+        "      <description>\n        <ul>\n${items}        </ul>\n      </description>\n    </release>\n")
+endforeach()
 
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS LICENSE ${from}/about.txt)
 # license_text(FILE START VARIABLE): the text from START on, with the indentation and the dots of the copyright file.
 function(license_text file first_line variable)
     file(READ ${file} text)
@@ -33,6 +29,9 @@ license_text(${from}/about.txt "OPEN GAME LICENSE" ogl)
 # The program looks for its files in its own folder.
 set(program_folder ${CMAKE_INSTALL_LIBDIR}/warhost)
 set(full_program_folder ${CMAKE_INSTALL_FULL_LIBDIR}/warhost)
+set(list_file ${full_program_folder}/modif.txt)
+set(list_upgrade "Installing again replaces it.")
+set(release_date ${release_date_${PROJECT_VERSION}})
 foreach(file metainfo.xml warhost.6 copyright)
     configure_file(${from}/linux/${file}.in ${made}/${file} @ONLY)
 endforeach()
@@ -40,8 +39,7 @@ file(RELATIVE_PATH program ${CMAKE_INSTALL_FULL_BINDIR} ${full_program_folder}/w
 file(CREATE_LINK ${program} ${made}/warhost SYMBOLIC)
 
 install(TARGETS warhost DESTINATION ${program_folder})
-install(FILES ${from}/modif.txt ${from}/about.txt DESTINATION ${program_folder})
-install(DIRECTORY ${from}/help ${from}/armies DESTINATION ${program_folder})
+install_runtime_data(${program_folder})
 install(FILES ${made}/warhost TYPE BIN)
 
 set(share ${CMAKE_INSTALL_DATADIR})

@@ -1,9 +1,8 @@
 # The Debian package that cpack makes of what is installed and of a few files that only Debian has.
 set(full_program_folder /usr/${program_folder})
-string(REPLACE "\n  " "\n    " debian_notes "${notes}")
-string(REPLACE "\n- " "\n  * " debian_notes "${debian_notes}")
-set(release_day @release_day@) # worked out by cpack's script
-foreach(file warhost.6 copyright changelog lintian-overrides)
+set(list_file /etc/warhost/modif.txt)
+set(list_upgrade "An upgrade keeps changes to it.")
+foreach(file warhost.6 copyright lintian-overrides)
     configure_file(${from}/linux/${file}.in ${made}/debian/${file} @ONLY)
 endforeach()
 
@@ -12,19 +11,24 @@ set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/debian_files.cmake)
 set(CPACK_WARHOST_DEBIAN_FILES ${made}/debian)
 set(CPACK_WARHOST_PROGRAM ${program_folder}/warhost)
-set(CPACK_WARHOST_RELEASE_DATE ${release_date})
+set(CPACK_WARHOST_SOURCE ${CMAKE_SOURCE_DIR})
 set(CPACK_WARHOST_STRIP ${CMAKE_STRIP})
 set(CPACK_VERBATIM_VARIABLES ON)
+set(CPACK_WARHOST_LIST_FILE ${list_file})
+file(WRITE ${made}/debian/conffiles "${list_file}\n")
+set(CPACK_DEBIAN_PACKAGE_CONTROL_EXTRA ${made}/debian/conffiles)
+set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_PACKAGE_CONTACT "Warhost developers <developers@warhost.example>")
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION games)
 set(CPACK_DEBIAN_PACKAGE_HOMEPAGE "https://warhost.example/")
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS xdg-utils) # opens the Web Links
-set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "settle battles of a tabletop role-playing game
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, xdg-utils") # windows on a Wayland desktop; the Web Links
+set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "resolve battles of a tabletop role-playing game
 Warhost is an aid for the game master: describe two armies, roll a d20 for
-each, and read who won, why, and what it costs every unit.
+each, and see who won, what happens to the loser, and how many soldiers each
+unit loses.
 .
-It keeps armies in files, and fights the same battle as often as you like to
-tell how often either side wins. A manual and sample armies are included.")
+It saves armies to files and simulates a battle any number of times to report
+the odds. A manual and sample armies are included.")
 include(CPack)

@@ -67,6 +67,12 @@ window 'Misc. modifiers and feats - Warhost Help' >/dev/null
 kill $program
 trap 'kill $screen' EXIT
 
+# An upgrade keeps the user's own list.
+list=$debian/etc/warhost/modif.txt
+printf 'A row of mine\r\n1\r\n' >>"$list"
+dpkg --root="$debian" --install "$package"
+grep -q 'A row of mine' "$list"
+
 rmdir "$debian$home"
 dpkg --root="$debian" --purge warhost
 diff "$debian.before" <(listing)

@@ -12,3 +12,4 @@ trap 'rm -f "$screen"' EXIT
 printf '{"screens": [{"name": "one", "x": 0, "y": 0, "width": 2400, "height": 1800, "logicalDpi": 96, "dpr": 1}]}' >"$screen"
 mkdir -p data/help/images
 QT_QPA_PLATFORM=offscreen:configfile=$screen QT_SCALE_FACTOR=2 build/release/bin/pictures data data/help/images
+mv data/help/images/dark_theme.png docs # for the README alone
