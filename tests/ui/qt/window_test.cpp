@@ -459,24 +459,6 @@ TEST(Window, the_four_containers_follow_the_windows_size)
     EXPECT_EQ(screen.named<QWidget>("txtArmyName").mapTo(&screen.window, QPoint{}), name_place);
 }
 
-TEST(Window, every_control_is_there_once_under_its_name)
-{
-    Screen screen;
-    screen.choose_tab(3);
-    auto const names = spelled_out(
-        "TabStrip FrameArmy FrameCombat FrameMisc mnuFile mnuLoad mnuSave mnuQuit mnuWebLinks mnuWeb(1) mnuWeb(3) mnuWeb(5) "
-        "mnuWeb(7) mnuWeb(9) mnuHelp mnuHelpContents mnuAbout Label(0-25) txtArmyName cmdSaveArmy cmdLoadArmy Label4 "
-        "txtTotal FrameUnits Label1 Label2 txtUnitType(0-7) txtUnitNum(0-7) Label3 txtTotalNo Label12 lblRatio Label14 "
-        "lblRatioBonus FrameDiscipline Frame1 Frame2 Frame3 Frame4 Frame5 Frame10 Frame11 opt(0-29) opt(39-46) cmbOpt(0-7) "
-        "Label15 cmbLevel Label16 lblOtherLevel Label18 lblLevelBonus chkMisc(0-24) cmbMisc(0-24) Label5 "
-        "txtTotalMod(0-1) Label6 cmdRollAll Frame6 cmdRoll(0-1) txtResult(0-1) Label7(0) lblWinner Label8 lblWinBy Label9 "
-        "Frame7 txtLoserCasualty txtVictorCasRoll cmdRollCasualty txtCasRollBonus chkPlus5 chkMinus5 lblCasRange "
-        "cmdRollVictorCas txtVictorCasPercent lblLoserPercent Label13 txtVictorCas frmSideA Frame8 txtAName(0-15) "
-        "txtANum(0-15) txtLoses(0-15) cmdApplyCasualties(0-1) Frame9 Label10 txtBattleResults Label11 txtVictorDesc cmdSimulate");
-    for (QString const& name : names)
-        EXPECT_EQ(screen.window.findChildren<QObject*>(name).size(), 1) << name.toStdString();
-}
-
 } // namespace
 
 } // namespace warhost
