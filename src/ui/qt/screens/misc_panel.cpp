@@ -81,12 +81,11 @@ void MiscPanel::make_row(int index)
     CheckBox& box_field = controls_.chkMisc(index);
     ComboBox& value_field = controls_.cmbMisc(index);
     QString const caption = beginning_of(box_field.caption());
-    Row const row{index, new QCheckBox{this}, new ValueBox{value_field}};
+    Row const row{index, new QCheckBox{this}, new ValueBox{value_field, this}};
 
     bind(box_field, *row.box);
     row.box->setAccessibleName(caption);
     row.box->setGeometry(geometry_of(box_field.place, scale_));
-    row.value->setParent(this);
     bind(value_field, *row.value);
     row.value->setAccessibleName(caption + ", value");
     row.value->entry().set_reading(whole_number<TextToLong>);

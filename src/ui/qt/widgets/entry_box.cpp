@@ -58,8 +58,10 @@ QRect EntryBox::room() const
 
 bool EntryBox::is_cut() const { return fontMetrics().horizontalAdvance(text()) > room().width(); }
 
+/// What is not shown is fitted when it is.
 void EntryBox::fit()
 {
+    if (!isVisible()) return;
     if (holds_ == Holds::number) return fit_number();
     tell_whole(*this, !hasFocus() && is_cut() ? beginning_of(text().toStdString()) : QString{});
     update();
@@ -121,6 +123,12 @@ void EntryBox::paintEvent(QPaintEvent* event)
 void EntryBox::resizeEvent(QResizeEvent* event)
 {
     QLineEdit::resizeEvent(event);
+    fit();
+}
+
+void EntryBox::showEvent(QShowEvent* event)
+{
+    QLineEdit::showEvent(event);
     fit();
 }
 

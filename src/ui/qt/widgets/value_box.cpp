@@ -74,7 +74,7 @@ void ValueBox::put_line_edit()
     entry_->setCompleter(nullptr);
 }
 
-ValueBox::ValueBox(ComboBox& field) : field_(field)
+ValueBox::ValueBox(ComboBox& field, QWidget* parent) : QComboBox(parent), field_(field)
 {
     static bool const installed = (QAccessible::installFactory(spoken_box), true);
     static_cast<void>(installed);

@@ -15,7 +15,7 @@ class ValueBox : public QComboBox {
 
 public:
     /// The field must outlive the box's use.
-    explicit ValueBox(ComboBox& field);
+    ValueBox(ComboBox& field, QWidget* parent);
 
     EntryBox& entry() const { return *entry_; }
 

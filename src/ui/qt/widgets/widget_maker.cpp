@@ -32,7 +32,7 @@ QFont WidgetMaker::font(Type type) const { return in_type(screen_.window()->font
 
 QLabel* WidgetMaker::label(TextLabel& field, int width, Type type) const
 {
-    auto* const made = new QLabel;
+    auto* const made = new QLabel{&screen_};
     bind(field, *made);
     made->setFont(font(type));
     made->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
@@ -42,7 +42,8 @@ QLabel* WidgetMaker::label(TextLabel& field, int width, Type type) const
 
 EntryBox* WidgetMaker::entry(TextBox& field, QString const& spoken, bool number)
 {
-    auto* const made = interactive(new EntryBox{number ? EntryBox::Holds::number : EntryBox::Holds::name}, spoken);
+    auto* const made =
+        interactive(new EntryBox{number ? EntryBox::Holds::number : EntryBox::Holds::name, &screen_}, spoken);
     bind(field, *made);
     return made;
 }
@@ -79,7 +80,7 @@ EntryBox* WidgetMaker::number_cell(TextBox& field, QString const& spoken)
 
 ValueBox* WidgetMaker::value_box(ComboBox& field, QString const& spoken, int width, int height)
 {
-    auto* const made = interactive(new ValueBox{field}, spoken);
+    auto* const made = interactive(new ValueBox{field, &screen_}, spoken);
     bind(field, *made);
     made->setFixedSize(pixels(width), height);
     return made;
@@ -87,7 +88,7 @@ ValueBox* WidgetMaker::value_box(ComboBox& field, QString const& spoken, int wid
 
 QCheckBox* WidgetMaker::check_box(CheckBox& field, QString const& spoken)
 {
-    auto* const made = interactive(new QCheckBox, spoken);
+    auto* const made = interactive(new QCheckBox{&screen_}, spoken);
     bind(field, *made);
     return made;
 }
@@ -103,7 +104,7 @@ OptionChoice* WidgetMaker::option(OptionButton& field, QString const& spoken, QW
 
 QPushButton* WidgetMaker::button(Button& field, QString const& spoken, int width, int height)
 {
-    auto* const made = interactive(new QPushButton, spoken);
+    auto* const made = interactive(new QPushButton{&screen_}, spoken);
     bind(field, *made);
     made->setAutoDefault(true); // Enter presses the button that has the keyboard
     made->setFixedSize(pixels(width), pixels(height));
@@ -112,7 +113,7 @@ QPushButton* WidgetMaker::button(Button& field, QString const& spoken, int width
 
 QTextEdit* WidgetMaker::description(RichTextBox& field, QString const& spoken)
 {
-    auto* const made = interactive(new QTextEdit, spoken);
+    auto* const made = interactive(new QTextEdit{&screen_}, spoken);
     bind(field, *made);
     made->setTabChangesFocus(true);
     return made;

@@ -23,10 +23,10 @@ class EntryBox;
 class OptionChoice;
 class ValueBox;
 
-/// Made in reading order, which becomes the order of the Tab key. Frames are children of the screen at once, so that
-/// they know their font; everything else is left to the layout that it is put in. spoken: the name by which a screen
-/// reader tells the widget from its neighbours. Lengths are in pixels of the base size; a width of 0 is left to the
-/// layout.
+/// Made in reading order, which becomes the order of the Tab key. All are children of the screen at once, so that
+/// they have its font and palette; the layout that they are put in may give them to another parent. spoken: the name by
+/// which a screen reader tells the widget from its neighbours. Lengths are in pixels of the base size; a width of 0 is
+/// left to the layout.
 class WidgetMaker {
 public:
     WidgetMaker(QWidget& screen, Scale const& scale) : screen_(screen), scale_(scale) {}
