@@ -5,6 +5,7 @@
 #include "ui/qt/dialogs/qt_desktop.h"
 #include "ui/qt/end_signals.h"
 #include "ui/qt/help/help_viewer.h"
+#include "ui/qt/look/colour_scheme.h"
 #include "ui/qt/look/page_style.h"
 #include "ui/qt/screens/window.h"
 #include "ui/qt/toolkit_settings.h"
@@ -33,6 +34,7 @@ int main(int argc, char* argv[])
     QCoreApplication::setApplicationName("warhost");
     QGuiApplication::setDesktopFileName("warhost");
     QApplication::setStyle(new warhost::PageStyle);
+    warhost::follow_colour_scheme();
     QGuiApplication::setWindowIcon(window_icon());
     // No display name: it would be appended to the title of every dialog.
 

@@ -1,16 +1,19 @@
 // Nothing is clipped, everything is readable, reachable and named.
 #include "window_fixture.h"
 
+#include "ui/qt/look/colour_scheme.h"
+#include "ui/qt/look/colours.h"
 #include "ui/qt/look/contrast.h"
+#include "ui/qt/widgets/caption_frame.h"
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPaintEvent>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QStyleOptionButton>
-#include <QStyleOptionGroupBox>
 #include <QTextEdit>
 
 #include <algorithm>
@@ -24,11 +27,40 @@ namespace {
 
 constexpr std::array tabs{1, 2, 3};
 
-/// A battle with long numbers and texts everywhere.
+QPalette high_contrast()
+{
+    QPalette made{Qt::black, Qt::black};
+    made.setColor(QPalette::Base, Qt::black);
+    for (auto const role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) made.setColor(role, Qt::white);
+    made.setColor(QPalette::Highlight, Qt::yellow);
+    made.setColor(QPalette::HighlightedText, Qt::black);
+    return made;
+}
+
+/// Until the test ends.
+struct Theme {
+    QPalette const usual = QApplication::palette();
+    explicit Theme(QPalette const& palette) { show(palette); }
+    ~Theme() { show(usual); }
+    static void show(QPalette const& palette)
+    {
+        QApplication::setPalette(palette);
+        QCoreApplication::processEvents();
+    }
+};
+
+/// A battle with long numbers and names everywhere.
 void fill(Screen& screen)
 {
-    screen.form.txtUnitType(0).set_text("Spears");
-    screen.form.txtUnitNum(0).set_text("99999");
+    std::string const name(70, 'm');
+    for (int const side : {2, 1}) {
+        screen.form.TabStrip.choose(side);
+        screen.form.txtArmyName.set_text(name);
+        for (int row = 0; row < unit_rows; ++row) screen.form.txtUnitType(row).set_text(name);
+        screen.form.txtUnitNum(0).set_text("2000000000");
+        screen.form.txtUnitNum(1).set_text("12 men");
+        screen.form.cmbLevel.set_text("12.75");
+    }
     for (int const option : {3, 6, 12, 19, 40, 29, 41}) screen.form.opt(option).set_selected(true);
     for (int row = 1; row <= screen.form.chkMisc.highest(); ++row) screen.form.chkMisc(row).set_state(1);
     screen.form.cmdRollAll_Click();
@@ -58,8 +90,10 @@ QString name_of(QWidget const& widget)
 std::pair<QRect, QString> content_of(QWidget& widget)
 {
     if (auto* const label = qobject_cast<QLabel*>(&widget)) return {label->contentsRect(), label->text()};
-    if (auto* const box = qobject_cast<QLineEdit*>(&widget)) // keeps two pixels free on either side
-        return {box->rect().adjusted(2, 0, -2, 0), box->text()};
+    if (auto* const box = qobject_cast<QLineEdit*>(&widget)) { // keeps two pixels free on either side
+        bool const cut = !box->alignment().testFlag(Qt::AlignRight) && (box->hasFocus() || !box->toolTip().isEmpty());
+        return {box->rect().adjusted(2, 0, -2, 0), cut ? QString{} : box->text()};
+    }
     if (auto* const button = qobject_cast<QAbstractButton*>(&widget)) {
         QStyleOptionButton option;
         option.initFrom(button);
@@ -68,13 +102,8 @@ std::pair<QRect, QString> content_of(QWidget& widget)
                                                                            : QStyle::SE_PushButtonContents;
         return {button->style()->subElementRect(part, &option, button), button->text().replace("&&", "&")};
     }
-    if (auto* const frame = qobject_cast<QGroupBox*>(&widget)) {
-        QStyleOptionGroupBox option;
-        option.initFrom(frame);
-        option.text = frame->title();
-        option.subControls = QStyle::SC_GroupBoxFrame | QStyle::SC_GroupBoxLabel;
-        QRect room = frame->style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxLabel, frame);
-        room = {{room.left(), 0}, frame->rect().bottomRight()};
+    if (auto* const frame = qobject_cast<CaptionFrame*>(&widget)) {
+        QRect room = frame->rect();
         for (auto* const result : frame->findChildren<QComboBox*>())
             if (result->y() == 0) room.setRight(result->x() - 1);
         return {room, frame->title()};
@@ -105,7 +134,8 @@ TEST(WindowLook, no_text_is_clipped_and_nothing_overlaps)
             for (QWidget* const widget : widgets) {
                 SCOPED_TRACE(QString{"%1 at %2, tab %3"}.arg(name_of(*widget)).arg(share).arg(tab).toStdString());
                 auto const [room, text] = content_of(*widget);
-                auto const font = widget->fontMetrics();
+                auto* const section = qobject_cast<CaptionFrame*>(widget);
+                auto const font = section != nullptr ? QFontMetrics{section->caption_font()} : widget->fontMetrics();
                 bool const wraps = widget->property("wordWrap").toBool(); // a label's
                 int const height = wraps ? font.boundingRect(room, Qt::TextWordWrap, text).height() : font.height();
                 EXPECT_TRUE(text.isEmpty() || height <= room.height());
@@ -137,16 +167,11 @@ double contrast_in(QImage const& picture)
 
 TEST(WindowLook, every_text_is_readable_in_light_dark_and_high_contrast)
 {
-    QPalette const usual = QApplication::palette();
     Screen screen{1.5}; // strokes of full colour
     fill(screen);
-    QPalette dark{QColor{53, 53, 56}, QColor{45, 45, 48}};
-    dark.setColor(QPalette::Base, QColor{30, 30, 30});
-    QPalette high_contrast{Qt::black, Qt::black};
-    high_contrast.setColor(QPalette::Base, Qt::black);
-    for (QPalette const& palette : {usual, dark, high_contrast}) {
-        QApplication::setPalette(palette);
-        QCoreApplication::processEvents();
+    Theme const theme{QApplication::palette()};
+    for (QPalette const& palette : {theme.usual, dark_palette(), high_contrast()}) {
+        Theme::show(palette);
         for (int const tab : tabs) {
             screen.choose_tab(tab);
             QPixmap const window = screen.window.grab();
@@ -154,7 +179,7 @@ TEST(WindowLook, every_text_is_readable_in_light_dark_and_high_contrast)
                 auto const [room, text] = content_of(*widget);
                 if (text.trimmed().isEmpty()) continue;
                 QRect place{widget->mapTo(&screen.window, room.topLeft()), room.size()};
-                if (qobject_cast<QGroupBox*>(widget) != nullptr) place.setHeight(widget->fontMetrics().height());
+                if (qobject_cast<CaptionFrame*>(widget) != nullptr) place.setHeight(widget->fontMetrics().height());
                 place.adjust(2, 2, -2, -2);
                 qreal const dots = window.devicePixelRatio();
                 QRect const in_dots{(place.topLeft().toPointF() * dots).toPoint(), place.size() * dots};
@@ -163,7 +188,6 @@ TEST(WindowLook, every_text_is_readable_in_light_dark_and_high_contrast)
             }
         }
     }
-    QApplication::setPalette(usual);
 }
 
 TEST(WindowLook, neighbouring_misc_rows_differ_and_odd_ones_are_light_grey)
@@ -177,6 +201,183 @@ TEST(WindowLook, neighbouring_misc_rows_differ_and_odd_ones_are_light_grey)
     };
     for (char const* const row : {"chkMisc(1)", "chkMisc(3)"}) EXPECT_EQ(behind(row), QColor(240, 240, 240));
     EXPECT_GE(std::abs(behind("chkMisc(2)").lightness() - 240), 8);
+}
+
+TEST(Colours, are_computed_from_the_palette_and_stand_out)
+{
+    struct {
+        char const* name;
+        QColor Colours::*member;
+        char const *light, *dark;
+    } const rows[] = {
+        {"page", &Colours::page, "#f9f9f9", "#232427"},     {"dim", &Colours::dim, "#646464", "#9d9e9e"},
+        {"firm", &Colours::firm, "#8c8c8c", "#717173"},     {"soft", &Colours::soft, "#bebebe", "#555658"},
+        {"hair", &Colours::hair, "#d9d9d9", "#424345"},     {"band", &Colours::band, "#ededed", "#2e2f32"},
+        {"stripe", &Colours::stripe, "#f0f0f0", "#303134"}, {"tie", &Colours::tie, "#c8c8c8", "#4a4a4d"},
+        {"ring", &Colours::ring, "#308cc6", "#4c8dd6"},     {"strong", &Colours::strong, "#2a79ab", "#3f74b0"},
+        {"hint", &Colours::hint, "#2976a7", "#5290d6"},
+    };
+    auto const near = [](QColor const& one, QColor const& other) { // a hundredth of a mixture may be rounded
+        return std::max({std::abs(one.red() - other.red()), std::abs(one.green() - other.green()),
+                         std::abs(one.blue() - other.blue())}) <= 2;
+    };
+    Colours const light = colours_of(QApplication::style()->standardPalette());
+    Colours const dark = colours_of(dark_palette());
+    for (auto const& [name, member, in_light, in_dark] : rows) {
+        EXPECT_TRUE(near(light.*member, QColor{in_light})) << name << (light.*member).name().toStdString();
+        EXPECT_TRUE(near(dark.*member, QColor{in_dark})) << name << (dark.*member).name().toStdString();
+    }
+    for (Colours const& of : {light, dark, colours_of(high_contrast())}) {
+        for (QColor const& ground : {of.page, of.stripe, of.band})
+            EXPECT_GE(contrast_ratio(of.dim, ground), least_contrast);
+        for (QColor const& text : {of.hint, of.side[0], of.side[1]})
+            EXPECT_GE(contrast_ratio(text, of.page), least_contrast);
+        for (QColor const& mark : {of.ring, of.firm}) EXPECT_GE(contrast_ratio(mark, of.page), 3);
+        EXPECT_GE(contrast_ratio(of.text_on_strong, of.strong), 4.5);
+        EXPECT_GE(contrast_ratio(of.side[0], of.tint[0]), 4.5);
+        EXPECT_GE(contrast_ratio(of.side[1], of.tint[1]), 4.5);
+    }
+}
+
+TEST(Colours, are_the_platforms_own_unless_it_says_no_more_than_dark)
+{
+    QPalette const plain_dark{Qt::darkGray, Qt::black};
+    EXPECT_EQ(palette_for(plain_dark, plain_dark), dark_palette());
+    EXPECT_EQ(palette_for(plain_dark, high_contrast()), plain_dark);
+    EXPECT_EQ(palette_for(Theme{QPalette{}}.usual, QApplication::palette()), QApplication::palette());
+}
+
+/// The one button that is painted strong.
+std::string strong_button(Screen& screen)
+{
+    std::string found;
+    for (auto* const button : screen.window.findChildren<QPushButton*>()) {
+        if (button->property("strong").toBool()) found += button->objectName().toStdString();
+    }
+    return found;
+}
+
+TEST(CombatScreen, shows_what_to_press_next)
+{
+    Screen screen;
+    screen.choose_tab(3);
+    Main& form = screen.form;
+    auto const hint = [&](char const* frame) {
+        return !screen.named<QWidget>(frame).accessibleDescription().isEmpty();
+    };
+    EXPECT_EQ(screen.window.focusWidget()->objectName(), "cmdRollAll");
+    EXPECT_EQ(strong_button(screen), "cmdRollAll");
+    form.txtResult(0).set_text("9");
+    form.txtCasRollBonus.set_text("0");
+    form.txtVictorCasRoll.set_text("1"); // a natural 1 checks the box
+    EXPECT_EQ(strong_button(screen), "cmdRollCasualty");
+    EXPECT_TRUE(hint("Frame7"));
+    form.txtVictorCasPercent.set_text("50"); // not asked for yet
+    EXPECT_EQ(strong_button(screen), "cmdRollCasualty");
+    form.txtVictorCasRoll.set_text("7");
+    EXPECT_EQ(strong_button(screen), "cmdRollVictorCas");
+    form.txtVictorCasPercent.set_text("50");
+    EXPECT_EQ(strong_button(screen), "cmdRollAll");
+    EXPECT_FALSE(hint("Frame7"));
+
+    form.chkMinus5.set_state(0);
+    screen.named<QCheckBox>("chkPlus5").click(); // by hand: nothing was rolled
+    EXPECT_EQ(strong_button(screen), "cmdRollAll");
+    screen.named<QCheckBox>("chkPlus5").click();
+    form.txtVictorCasRoll.set_text("20");
+    EXPECT_EQ(strong_button(screen), "cmdRollCasualty");
+    form.chkPlus5.set_state(0);
+    EXPECT_EQ(strong_button(screen), "cmdRollAll");
+
+    auto const state = [&](int Index) {
+        return screen.named<QWidget>(QString{"cmdApplyCasualties(%1)"}.arg(Index))
+            .accessibleDescription()
+            .toStdString();
+    };
+    form.txtLoserCasualty.set_text("20");
+    EXPECT_EQ(state(1), "Loser loses 20%");
+    form.cmdApplyCasualties(1).press();
+    EXPECT_EQ(state(1), "\u2713 Applied");
+    EXPECT_EQ(state(0).substr(0, 12), "Victor loses");
+    form.txtLoses(8).set_text("3");
+    EXPECT_EQ(state(1), "Loser loses 20%");
+
+    form.cmdSimulate.press();
+    EXPECT_TRUE(hint("Frame6"));
+    form.cmdApplyCasualties(0).press();
+    EXPECT_TRUE(hint("Frame6"));
+    form.cmdRollAll.press();
+    EXPECT_FALSE(hint("Frame6"));
+}
+
+TEST(WindowLook, a_text_that_does_not_fit_or_counts_as_something_else_is_explained)
+{
+    Screen screen;
+    QString const long_name(70, 'm');
+    auto& name = screen.named<QLineEdit>("txtArmyName");
+    QTest::keyClicks(&name, long_name);
+    EXPECT_TRUE(name.toolTip().isEmpty());
+    auto& soldiers = screen.named<QLineEdit>("txtUnitNum(0)");
+    soldiers.setFocus();
+    EXPECT_EQ(name.accessibleDescription(), long_name);
+    struct {
+        char const *typed, *told;
+    } const rows[] = {
+        {"12 men", "Counts as 12"}, {"+12", ""}, {"1,000", "Counts as 1"}, {"12", ""}, {"Pikes", "Counts as 0"}};
+    for (auto const& [typed, told] : rows) {
+        soldiers.clear();
+        QTest::keyClicks(&soldiers, typed);
+        EXPECT_EQ(soldiers.toolTip(), told) << typed;
+        EXPECT_EQ(soldiers.text(), typed);
+    }
+}
+
+TEST(WindowLook, the_usual_keys_change_tabs_and_the_keyboard_follows)
+{
+    Screen screen;
+    struct {
+        Qt::Key key;
+        Qt::KeyboardModifiers with;
+        int tab;
+        char const* focus;
+    } const rows[] = {{Qt::Key_PageUp, Qt::ControlModifier, 3, "cmdRollAll"},
+                      {Qt::Key_Tab, Qt::ControlModifier, 1, "txtArmyName"},
+                      {Qt::Key_PageDown, Qt::ControlModifier, 2, "txtArmyName"},
+                      {Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier, 1, "txtArmyName"}};
+    for (auto const& [key, with, tab, focus] : rows) {
+        QTest::keyClick(screen.window.focusWidget(), key, with);
+        EXPECT_EQ(screen.form.TabStrip.position(), tab);
+        EXPECT_EQ(screen.window.focusWidget()->objectName(), focus);
+    }
+}
+
+TEST(WindowLook, a_key_repaints_only_what_it_changes)
+{
+    struct Painted : QObject {
+        QWidget& window;
+        QRegion region;
+        explicit Painted(QWidget& in) : window(in) { qApp->installEventFilter(this); }
+        bool eventFilter(QObject* watched, QEvent* event) override
+        {
+            auto* const widget = qobject_cast<QWidget*>(watched);
+            if (event->type() == QEvent::Paint && widget != nullptr && !widget->isWindow())
+                region += static_cast<QPaintEvent*>(event)->region().translated(widget->mapTo(&window, QPoint{}));
+            return false;
+        }
+    };
+    Screen screen;
+    fill(screen);
+    screen.choose_tab(1);
+    auto& soldiers = screen.named<QLineEdit>("txtUnitNum(3)");
+    soldiers.setFocus();
+    QCoreApplication::processEvents();
+    Painted painted{screen.window};
+    QTest::keyClicks(&soldiers, "7");
+    QCoreApplication::processEvents();
+    int area = 0;
+    for (QRect const& part : painted.region) area += part.width() * part.height();
+    EXPECT_GT(area, 0);
+    EXPECT_LT(5 * area, screen.window.width() * screen.window.height());
 }
 
 /// The names of the widgets that the Tab key reaches, from the tab strip on.

@@ -323,13 +323,6 @@ private:
 
 } // namespace
 
-QPalette PageStyle::standardPalette() const
-{
-    QPalette const usual = QProxyStyle::standardPalette();
-    bool const dark = usual.color(QPalette::Window).lightness() < usual.color(QPalette::WindowText).lightness();
-    return dark ? dark_palette() : usual;
-}
-
 void PageStyle::polish(QWidget* widget)
 {
     QProxyStyle::polish(widget);

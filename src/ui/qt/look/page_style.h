@@ -16,7 +16,6 @@ public:
     /// base: the style that paints what this one leaves alone.
     explicit PageStyle(QString const& base = "fusion") : QProxyStyle(base) {}
 
-    QPalette standardPalette() const override;
     void polish(QWidget* widget) override;
     using QProxyStyle::polish;
 
