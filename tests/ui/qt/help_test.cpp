@@ -9,7 +9,9 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QScrollBar>
 #include <QTest>
+#include <QTextBlock>
 #include <QTextBrowser>
 #include <QTreeWidget>
 
@@ -91,6 +93,28 @@ TEST(HelpViewer, opens_topics_follows_links_and_tells_what_is_missing)
     nowhere.open(104);
     EXPECT_TRUE(shown_by(nowhere).contains("The manual was not found: /no/such/folder"))
         << shown_by(nowhere).toStdString();
+}
+
+TEST(HelpViewer, keeps_its_place_and_needs_no_scrolling_to_the_side_at_any_size)
+{
+    HelpViewer viewer{manual};
+    auto& page = *viewer.findChild<QTextBrowser*>("helpPage");
+    viewer.open(104);
+    auto const check = [&](char const* state) {
+        QCoreApplication::processEvents();
+        EXPECT_EQ(page.cursorForPosition({40, 4}).block().text().toStdString(), "Holds a pass or bridge") << state;
+        EXPECT_EQ(page.horizontalScrollBar()->maximum(), 0) << state;
+    };
+    check("opened");
+    for (int step = 0; step < 4; ++step) QTest::keyClick(&viewer, Qt::Key_Plus, Qt::ControlModifier);
+    check("zoomed");
+    viewer.resize(600, 500);
+    check("narrow");
+    viewer.open(6);
+    QCoreApplication::processEvents();
+    for (int step = 0; step < 5; ++step) QTest::keyClick(&viewer, Qt::Key_Plus, Qt::ControlModifier);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(page.verticalScrollBar()->value(), 0);
 }
 
 TEST(HelpViewer, finds_a_text_goes_on_at_the_top_and_closes_the_bar_with_escape)

@@ -5,12 +5,14 @@
 #include "ui/qt/look/scale.h"
 #include "ui/qt/look/type.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QApplication>
 #include <QDir>
 #include <QEvent>
 #include <QFileInfo>
 #include <QPainter>
 #include <QScrollBar>
+#include <QTextFrame>
 #include <QUrlQuery>
 #include <QWheelEvent>
 
@@ -39,6 +41,29 @@ QString plain_page(QString const& title, QString const& text, QString const& mor
         title.toHtmlEscaped(), text.toHtmlEscaped(), more);
 }
 
+QString style_sheet(Scale const& scale)
+{
+    Colours const& of = colours();
+    return QString{"p, li { line-height: 145%; }"
+                   "p { margin-top: 0px; margin-bottom: %6px; }"
+                   "ul, ol, pre { margin-top: %6px; margin-bottom: %6px; }"
+                   "h1 { font-size: x-large; font-weight: 600; margin-top: 0px; margin-bottom: %6px; }"
+                   "h2 { font-size: large; font-weight: 600; margin-top: %7px; margin-bottom: %5px; }"
+                   "h3 { font-size: medium; font-weight: 600; margin-top: %6px; margin-bottom: %5px; }"
+                   "a[href] { color: %1; text-decoration: none; }"
+                   "table { border-collapse: collapse; border-style: none; margin-top: %6px; margin-bottom: %6px; }"
+                   "td, th { line-height: 130%; padding-left: %5px; padding-right: %8px; padding-top: %5px;"
+                   " padding-bottom: 0px; border-bottom-width: %9px; border-bottom-style: solid;"
+                   " border-bottom-color: %2; }"
+                   "th { color: %3; border-bottom-color: %4; }"}
+        .arg(of.hint.name(), of.hair.name(), of.dim.name(), of.firm.name())
+        .arg(scale.from_base(4))
+        .arg(scale.from_base(8))
+        .arg(scale.from_base(24))
+        .arg(scale.from_base(12))
+        .arg(scale.line());
+}
+
 } // namespace
 
 HelpPage::HelpPage(QString folder, QWidget* parent) : QTextBrowser(parent), folder_(std::move(folder))
@@ -49,11 +74,17 @@ HelpPage::HelpPage(QString folder, QWidget* parent) : QTextBrowser(parent), fold
     setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     setLineWrapMode(FixedPixelWidth);
     setFrameShadow(Plain);
-    apply_zoom();
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn); // so that the room for a line is the same on each page
+    show_anew();
 }
 
-/// Of a line, in pixels; wider than the window has room for when it is narrow.
-int HelpPage::measure_width() const { return scale_of(this).from_base(measure) * percent_ / 100; }
+/// Of a line or a picture, in pixels.
+int HelpPage::line_width() const
+{
+    Scale const scale = scale_of(this);
+    int const room = viewport()->width() - 2 * scale.from_base(margin);
+    return std::max(1, std::min(scale.from_base(measure) * percent_ / 100, room));
+}
 
 void HelpPage::show_entry(HelpEntry const& entry)
 {
@@ -96,17 +127,20 @@ QVariant HelpPage::loadResource(int type, QUrl const& name)
     return type == QTextDocument::ImageResource ? picture(resource.toByteArray()) : resource;
 }
 
+/// With the margins.
+int HelpPage::page_width() const { return line_width() + 2 * scale_of(this).from_base(margin); }
+
 /// As wide as the lines: the page itself would scale it roughly.
 QImage HelpPage::picture(QByteArray const& bytes) const
 {
     QImage const whole = QImage::fromData(bytes);
     if (!whole.isNull()) {
-        int const width = qRound(measure_width() * devicePixelRatioF());
+        int const width = qRound(line_width() * devicePixelRatioF());
         QImage shown = whole.scaledToWidth(width, Qt::SmoothTransformation);
         shown.setDevicePixelRatio(devicePixelRatioF());
         return shown;
     }
-    QImage note{measure_width(), fontMetrics().height() * 2, QImage::Format_ARGB32_Premultiplied};
+    QImage note{line_width(), fontMetrics().height() * 2, QImage::Format_ARGB32_Premultiplied};
     note.fill(Qt::transparent);
     QPainter painter{&note};
     painter.setFont(font());
@@ -118,35 +152,19 @@ QImage HelpPage::picture(QByteArray const& bytes) const
 void HelpPage::zoom(int steps)
 {
     percent_ = std::clamp(percent_ + steps * percent_of_step, least_percent, largest_percent);
-    apply_zoom();
+    show_anew();
 }
 
 void HelpPage::zoom_to_normal()
 {
     percent_ = 100;
-    apply_zoom();
-}
-
-void HelpPage::apply_zoom()
-{
-    Type type = type::reading;
-    type.pixels = type.pixels * percent_ / 100;
-    setFont(in_type(QApplication::font(), type));
-    fit_lines();
     show_anew();
-}
-
-void HelpPage::fit_lines()
-{
-    int const free = scale_of(this).from_base(margin);
-    document()->setDocumentMargin(free);
-    setLineWrapColumnOrWidth(std::min(viewport()->width(), measure_width() + 2 * free));
 }
 
 void HelpPage::resizeEvent(QResizeEvent* event)
 {
     QTextBrowser::resizeEvent(event);
-    fit_lines();
+    if (lineWrapColumnOrWidth() != page_width()) show_anew();
 }
 
 void HelpPage::wheelEvent(QWheelEvent* event)
@@ -160,40 +178,39 @@ void HelpPage::wheelEvent(QWheelEvent* event)
     event->accept();
 }
 
-/// Colours and the widths of pictures are fixed when a page is read.
+/// Colours and the widths of pictures are fixed when a page is read. The first line in sight stays the
+/// first, and what is selected selected.
 void HelpPage::show_anew()
 {
-    Colours const& of = colours();
+    document()->documentLayout()->frameBoundingRect(document()->rootFrame()); // finishes what is being laid out
+    QTextCursor const top = cursorForPosition({0, 0});
+    int const first = top.position();
+    int const above = cursorRect(top).top();
+    int const anchor = textCursor().anchor();
+    int const position = textCursor().position();
+
+    Type type = type::reading;
+    type.pixels = type.pixels * percent_ / 100;
+    setFont(in_type(QApplication::font(), type));
     Scale const scale = scale_of(this);
-    document()->setDefaultStyleSheet(
-        QString{"p, li { line-height: 145%; }"
-                "p, ul, ol, pre { margin-top: 0px; margin-bottom: %6px; }"
-                "h1 { font-size: x-large; font-weight: 600; margin-top: 0px; margin-bottom: %6px; }"
-                "h2 { font-size: large; font-weight: 600; margin-top: %7px; margin-bottom: %5px; }"
-                "h3 { font-size: medium; font-weight: 600; margin-top: %6px; margin-bottom: %5px; }"
-                "a[href] { color: %1; text-decoration: none; }"
-                "table { border-collapse: collapse; border-style: none; margin-top: %6px; margin-bottom: %6px; }"
-                "td, th { line-height: 130%; padding-left: %5px; padding-right: %8px; padding-top: %5px;"
-                " padding-bottom: 0px; border-bottom-width: %9px; border-bottom-style: solid;"
-                " border-bottom-color: %2; }"
-                "th { color: %3; border-bottom-color: %4; }"}
-            .arg(of.hint.name(), of.hair.name(), of.dim.name(), of.firm.name())
-            .arg(scale.from_base(4))
-            .arg(scale.from_base(8))
-            .arg(scale.from_base(24))
-            .arg(scale.from_base(12))
-            .arg(scale.line()));
+    document()->setDefaultStyleSheet(style_sheet(scale));
+    document()->setDocumentMargin(scale.from_base(margin));
+    setLineWrapColumnOrWidth(page_width());
     if (source().isEmpty()) return;
-    int const place = verticalScrollBar()->value();
     reload();
-    verticalScrollBar()->setValue(place);
+    QTextCursor again{document()};
+    auto const in_page = [&](int place) { return std::min(place, document()->characterCount() - 1); };
+    again.setPosition(in_page(anchor));
+    again.setPosition(in_page(position), QTextCursor::KeepAnchor);
+    setTextCursor(again);
+    again.setPosition(in_page(first));
+    verticalScrollBar()->setValue(verticalScrollBar()->value() + cursorRect(again).top() - above);
 }
 
 void HelpPage::changeEvent(QEvent* event)
 {
     QTextBrowser::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange) show_anew();
-    if (event->type() == QEvent::ApplicationFontChange) apply_zoom();
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::ApplicationFontChange) show_anew();
 }
 
 } // namespace warhost

@@ -31,9 +31,8 @@ protected:
 private:
     QString notice(QUrl const& name) const;
     QImage picture(QByteArray const& bytes) const;
-    int measure_width() const;
-    void apply_zoom();
-    void fit_lines();
+    int line_width() const;
+    int page_width() const;
     void show_anew();
 
     QString folder_;
