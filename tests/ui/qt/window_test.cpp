@@ -368,6 +368,7 @@ TEST(Window, closing_asks_first)
 {
     Screen screen;
     screen.desktop.answers = {Answer::no, Answer::yes};
+    screen.desktop.while_asked = [&] { EXPECT_FALSE(screen.window.close()); }; // is not asked about again
     EXPECT_FALSE(screen.window.close());
     EXPECT_TRUE(screen.window.isVisible());
     screen.window.menuBar()->hide(); // the desktop may show the menus itself
