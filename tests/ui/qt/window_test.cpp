@@ -11,6 +11,7 @@
 
 #include <QAccessible>
 #include <QCheckBox>
+#include <QCloseEvent>
 #include <QDialog>
 #include <QDropEvent>
 #include <QInputMethodEvent>
@@ -368,7 +369,11 @@ TEST(Window, closing_asks_first)
 {
     Screen screen;
     screen.desktop.answers = {Answer::no, Answer::yes};
-    screen.desktop.while_asked = [&] { EXPECT_FALSE(screen.window.close()); }; // is not asked about again
+    screen.desktop.while_asked = [&] { // a second request
+        QCloseEvent again;
+        QCoreApplication::sendEvent(&screen.window, &again);
+        EXPECT_FALSE(again.isAccepted());
+    };
     EXPECT_FALSE(screen.window.close());
     EXPECT_TRUE(screen.window.isVisible());
     screen.window.menuBar()->hide(); // the desktop may show the menus itself
