@@ -54,8 +54,8 @@ void MiscPanel::paintEvent(QPaintEvent* event)
         CheckBox const& field = controls_.chkMisc(row.index);
         if (!field.visible) continue;
         QRect const band{0, row.box->y(), width(), row.box->height()};
-        painter.fillRect(band, field.striped ? of.stripe : of.page);
         if (of.high_contrast) painter.fillRect(0, band.bottom(), width(), scale_.line(), of.hair);
+        else painter.fillRect(band, field.striped ? of.stripe : of.page);
     }
     painter.end();
     CaptionFrame::paintEvent(event);
