@@ -44,6 +44,7 @@ public:
     {
         widget.show();
         QCoreApplication::processEvents();
+        if (QWidget* const focused = widget.focusWidget()) focused->clearFocus(); // no cursor, no ring
         QString const path = folder_ + "/" + name + ".png";
         if (!widget.grab().save(path)) std::cerr << "Cannot write " << path.toStdString() << '\n';
     }
