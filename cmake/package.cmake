@@ -1,7 +1,7 @@
 # The Debian package that cpack makes of what is installed and of a few files that only Debian has.
 set(full_program_folder /usr/${program_folder})
 set(list_file /etc/warhost/modif.txt)
-set(list_upgrade "An upgrade keeps changes to it.")
+set(list_upgrade "An upgrade keeps changes to it, and asks if it brings a new list.")
 foreach(file warhost.6 copyright lintian-overrides)
     configure_file(${from}/linux/${file}.in ${made}/debian/${file} @ONLY)
 endforeach()
