@@ -1,9 +1,10 @@
-# For Windows from elsewhere: MinGW. The libraries of the programs that are built stand in WARHOST_WINDOWS_LIBRARIES.
+# For Windows from elsewhere: MinGW. What the programs are linked with besides stands in WARHOST_WINDOWS_LIBRARIES.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 set(CMAKE_C_COMPILER x86_64-w64-mingw32-gcc-posix) # the other variant has no threads
 set(CMAKE_CXX_COMPILER x86_64-w64-mingw32-g++-posix)
 set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
+set(CMAKE_TRY_COMPILE_PLATFORM_VARIABLES WARHOST_WINDOWS_LIBRARIES)
 set(CMAKE_FIND_ROOT_PATH ${WARHOST_WINDOWS_LIBRARIES} /usr/x86_64-w64-mingw32)
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
