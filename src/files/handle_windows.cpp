@@ -47,6 +47,20 @@ void require(bool succeeded)
     if (!succeeded) fail(::GetLastError());
 }
 
+std::filesystem::path unlimited(std::filesystem::path const& path)
+{
+    constexpr std::size_t longest_name = 255;
+    if (path.filename().native().size() > longest_name) fail(ERROR_INVALID_NAME);
+    std::wstring full(::GetFullPathNameW(path.c_str(), 0, nullptr, nullptr), L'\0');
+    auto const length = ::GetFullPathNameW(path.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr);
+    require(length != 0 && length < full.size());
+    full.resize(length);
+    bool const names_a_device = full.starts_with(LR"(\\?\)") || full.starts_with(LR"(\\.\)");
+    if (names_a_device) return full;
+    bool const is_shared = full.starts_with(LR"(\\)");
+    return is_shared ? LR"(\\?\UNC)" + full.substr(1) : LR"(\\?\)" + full;
+}
+
 bool File::open(std::filesystem::path const& path, DWORD access, DWORD sharing, DWORD disposition)
 {
     handle_ = ::CreateFileW(path.c_str(), access, sharing, nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr);

@@ -11,6 +11,9 @@ namespace warhost {
 /// Fails with the last error unless the call before it succeeded.
 void require(bool succeeded);
 
+/// The absolute path in the form that may be of any length. Fails for a file name of more than 255 characters.
+std::filesystem::path unlimited(std::filesystem::path const& path);
+
 class File {
 public:
     File() = default;

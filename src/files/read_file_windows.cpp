@@ -6,10 +6,11 @@ namespace warhost {
 
 std::string read_ordinary_file(std::filesystem::path const& path, std::size_t most)
 {
-    require_no_folder(path);
+    auto const place = unlimited(path);
+    require_no_folder(place);
     File file;
     constexpr DWORD share_all = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-    require(file.open(path, GENERIC_READ, share_all, OPEN_EXISTING));
+    require(file.open(place, GENERIC_READ, share_all, OPEN_EXISTING));
     require_ordinary(file, path);
     std::string bytes;
     std::string block(std::size_t{64} * 1024, '\0');

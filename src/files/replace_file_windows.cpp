@@ -25,6 +25,17 @@ Rights rights_of(File const& file)
     return told ? rights : Rights{};
 }
 
+/// When a file was made and how it is marked; the other times, left 0, are not set.
+FILE_BASIC_INFO marks_of(File const& file)
+{
+    FILE_BASIC_INFO found{}, marks{};
+    require(::GetFileInformationByHandleEx(file.handle(), FileBasicInfo, &found, sizeof found) != 0);
+    constexpr DWORD kept = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
+    marks.CreationTime = found.CreationTime;
+    marks.FileAttributes = (found.FileAttributes & kept) | FILE_ATTRIBUTE_ARCHIVE;
+    return marks;
+}
+
 /// The file that an open one is when its path led there through links.
 std::filesystem::path path_of(File const& file)
 {
@@ -74,6 +85,11 @@ public:
         require(::SetKernelObjectSecurity(file_.handle(), DACL_SECURITY_INFORMATION, rights.data()) != 0);
     }
 
+    void take_over_marks(FILE_BASIC_INFO marks) const
+    {
+        require(::SetFileInformationByHandle(file_.handle(), FileBasicInfo, &marks, sizeof marks) != 0);
+    }
+
     void write(std::string_view bytes) const
     {
         constexpr std::size_t most_at_once = std::size_t{1} << 20U;
@@ -90,7 +106,7 @@ public:
     /// Open all the while, so that no other save takes it for abandoned.
     void put_in_place(std::filesystem::path const& target)
     {
-        std::wstring const path = std::filesystem::absolute(target).native();
+        std::wstring const& path = target.native();
         std::vector<unsigned char> room(sizeof(FILE_RENAME_INFO) + path.size() * sizeof(wchar_t));
         auto* const info = reinterpret_cast<FILE_RENAME_INFO*>(room.data());
         info->ReplaceIfExists = TRUE;
@@ -117,29 +133,31 @@ private:
 
 void replace_durably(std::filesystem::path const& path, std::string_view bytes)
 {
-    require_no_folder(path);
-    DWORD const attributes = ::GetFileAttributesW(path.c_str());
+    auto place = unlimited(path);
+    require_no_folder(place);
+    DWORD const attributes = ::GetFileAttributesW(place.c_str());
     bool const exists = attributes != INVALID_FILE_ATTRIBUTES;
-    auto place = path;
     Rights rights;
+    FILE_BASIC_INFO marks{};
     if (exists) {
         // What is marked read-only, or must not be written, or is in use, stays.
         if ((attributes & FILE_ATTRIBUTE_READONLY) != 0) fail(ERROR_ACCESS_DENIED);
         constexpr DWORD share_all = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
         File old; // a link that leads to nothing cannot be opened either, and stays
-        require(old.open(path, GENERIC_WRITE | DELETE, share_all, OPEN_EXISTING));
+        require(old.open(place, GENERIC_WRITE | DELETE, share_all, OPEN_EXISTING));
         require_ordinary(old, path);
         rights = rights_of(old);
+        marks = marks_of(old);
         if ((attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0) place = path_of(old);
     } else {
         require(::GetLastError() == ERROR_FILE_NOT_FOUND);
     }
     if (is_temporary_name(place.filename().native())) fail(ERROR_INVALID_NAME);
-    auto const folder = place.has_parent_path() ? place.parent_path() : std::filesystem::path{L"."};
-    remove_leftovers(folder);
-    NewFile file{folder};
+    remove_leftovers(place.parent_path());
+    NewFile file{place.parent_path()};
     if (!rights.empty()) file.take_over_rights(rights);
     file.write(bytes);
+    if (exists) file.take_over_marks(marks);
     file.flush();
     file.put_in_place(place);
 }

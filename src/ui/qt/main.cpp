@@ -8,7 +8,6 @@
 #include "ui/qt/look/colour_scheme.h"
 #include "ui/qt/look/page_style.h"
 #include "ui/qt/screens/window.h"
-#include "ui/qt/toolkit_settings.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -30,7 +29,6 @@ QIcon window_icon()
 int main(int argc, char* argv[])
 {
     QApplication const application{argc, argv};
-    warhost::keep_no_toolkit_settings();
     QCoreApplication::setApplicationName("warhost");
     QGuiApplication::setDesktopFileName("warhost");
     QApplication::setStyle(new warhost::PageStyle);

@@ -237,8 +237,10 @@ TEST_F(FileChoice, neither_reads_nor_changes_the_toolkits_settings_of_the_user)
     QByteArray const own = "[FileDialog]\nlastVisited=file:///own\n";
     settings.write(own);
     settings.flush();
-    EXPECT_FALSE(QSettings(QSettings::UserScope, "QtProject").contains("FileDialog/lastVisited"));
-    answer_next_box([&](QWidget& box) { dynamic_cast<QDialog&>(box).reject(); });
+    answer_next_box([&](QWidget& box) {
+        EXPECT_FALSE(QSettings(QSettings::UserScope, "QtProject").contains("FileDialog/lastVisited"));
+        dynamic_cast<QDialog&>(box).reject();
+    });
     EXPECT_FALSE(chooser(open).show_dialog(to_qt(folder.path()), {}, nullptr));
     settings.close();
     ASSERT_TRUE(settings.open(QIODevice::ReadOnly));

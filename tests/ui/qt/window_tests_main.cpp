@@ -1,5 +1,4 @@
 #include "ui/qt/look/page_style.h"
-#include "ui/qt/toolkit_settings.h"
 
 #include <QApplication>
 #include <QFile>
@@ -27,7 +26,6 @@ int main(int argc, char* argv[])
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screens.fileName().toUtf8());
     qputenv("XDG_CONFIG_HOME", folder.path().toUtf8());
     QApplication const application{argc, argv};
-    warhost::keep_no_toolkit_settings();
     QApplication::setStyle(new warhost::PageStyle{qEnvironmentVariable("WARHOST_TEST_STYLE", "fusion")});
     QApplication::setQuitOnLastWindowClosed(false);
     return RUN_ALL_TESTS();

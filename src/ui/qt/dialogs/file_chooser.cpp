@@ -1,6 +1,7 @@
 #include "ui/qt/dialogs/file_chooser.h"
 
 #include "base/failure.h"
+#include "ui/qt/toolkit_settings.h"
 #include "ui/qt/widgets/text.h"
 
 #include <QDialogButtonBox>
@@ -138,6 +139,7 @@ std::optional<FileChooser::Choice> FileChooser::show_dialog(QString const& folde
     QFileInfo const info{QDir{folder}, start};
     bool const has_folder = !start.isEmpty() && info.dir().exists();
     NameOnlyIcons icons;
+    UnchangedToolkitSettings const settings;
     ChooserDialog dialog{*this, request_, has_folder ? info.absolutePath() : folder, window};
     dialog.setIconProvider(&icons);
     if (!start.isEmpty()) dialog.selectFile(info.fileName());

@@ -96,7 +96,7 @@ std::optional<std::string> QtDesktop::file_dialog(FileDialog const& dialog)
         [&](QString const& start) { return chooser.show_dialog(folder_for(dialog.kind), start, window_); });
     if (!path) return std::nullopt;
     last_folder_ = QFileInfo{*path}.absolutePath();
-    return path->toStdString();
+    return QDir::toNativeSeparators(*path).toStdString();
 }
 
 bool QtDesktop::minimized() { return window_ != nullptr && window_->isMinimized(); }
