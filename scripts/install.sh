@@ -9,7 +9,12 @@ packages_check=(
     xvfb dbus at-spi2-core python3-pyatspi # the accessibility bus
     locales
 )
-packages_windows=(cmake ninja-build googletest g++-mingw-w64-x86-64-posix wine wine64)
+packages_windows=(
+    cmake ninja-build googletest g++-mingw-w64-x86-64-posix
+    qt6-base-dev qt6-base-dev-tools dpkg-dev # the toolkit's tools, and what unpacks its source
+    wine wine64 fonts-dejavu-core nsis
+    xvfb openbox xdotool imagemagick
+)
 packages_package=(dpkg-dev lintian desktop-file-utils appstream)
 packages_package_check=(mmdebstrap xvfb xdotool)
 
@@ -98,13 +103,14 @@ run_ninja()
     ninja -C "$@" | sed -u '/^ninja: Entering directory/d; /Re-checking globbed dir/d; /^ninja: no work to do/d'
 }
 
-# build PRESET: configures build/PRESET where that is needed and builds it; prints nothing when nothing has changed.
+# build PRESET OPTION...: configures build/PRESET where that is needed, with the options besides, and builds it; prints
+# nothing when nothing has changed.
 build()
 {
     local tree=build/$1
     check_writable "$tree"
     if ! is_current "$tree"; then
-        configure "$1" --fresh
+        configure "$1" --fresh "${@:2}"
     elif grep -qxF BUILD_TESTING:BOOL=OFF "$tree/CMakeCache.txt"; then
         configure "$1" # the preset turns on what build_program left out
     fi
@@ -118,4 +124,13 @@ build_program()
     check_writable build/release
     is_current build/release || configure release --fresh -DBUILD_TESTING=OFF -DWARHOST_BENCH=OFF
     run_ninja build/release warhost fight
+}
+
+# use_wine FOLDER: lets Wine keep what it needs there, as Windows 10, without entries for the desktop's menus, and ends it
+# with the script.
+use_wine()
+{
+    export WINEPREFIX=$1 WINEDLLOVERRIDES=winemenubuilder.exe= WINEDEBUG=-all
+    trap 'wineserver --kill || true' EXIT
+    wine winecfg -v win10
 }

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
-# windows_toolkit.sh FOLDER|build: the toolkit for Windows, made once from the source package of the Debian that runs here.
-# "folder" prints where it stands, in the user's cache under its version and options; "build" makes it where it is
-# missing, which takes about 40 minutes, and goes on where an earlier run was interrupted.
+# windows_toolkit.sh folder|build: the toolkit for Windows, made once from the source package of the Debian that runs here.
+# "folder" prints where it stands, in the user's cache under its version and options. "build" makes it where it is
+# missing, which takes about 40 minutes, and goes on where an earlier run was interrupted. In the folder, installed/ is
+# the toolkit, source-package/ what it was made of, and complete says that it is, and the version.
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
 
@@ -43,7 +44,10 @@ fetch_source()
         -o Dir::State::Lists="$apt/lists" -o Dir::Cache="$apt" -o APT::Sandbox::User=)
     "${apt_get[@]}" update
     (cd "$apt" && "${apt_get[@]}" source --only-source "qt6-base=$version")
+    mkdir -p "$folder/source-package"
+    mv "$apt"/*.dsc "$apt"/*.tar.* "$folder/source-package"
     mv "$apt"/qt6-base-*/ "$folder/source"
+    cp "$folder/source/debian/copyright" "$folder/toolkit-copyright.txt"
     rm -rf --one-file-system "$apt"
 }
 
@@ -55,21 +59,23 @@ make_toolkit()
     [ ! -f "$folder/complete" ] || return 0
 
     [ -d "$folder/source" ] || fetch_source
+    printf 'Building the toolkit for Windows in %s; see build.log there.\n' "$folder"
+    local log=$folder/build.log
     if [ ! -f "$folder/configured" ]; then
         local host_info
         host_info=$(dpkg-query --listfiles qt6-base-dev | grep '/Qt6HostInfoConfig.cmake$')
         cmake -G Ninja -S "$folder/source" -B "$folder/build" --fresh --toolchain "$toolchain" \
-            -DCMAKE_INSTALL_PREFIX="$prefix" -DQt6HostInfo_DIR="$(dirname "$host_info")" "${options[@]}"
+            -DCMAKE_INSTALL_PREFIX="$prefix" -DQt6HostInfo_DIR="$(dirname "$host_info")" "${options[@]}" >"$log" 2>&1 || { tail -n 20 "$log" >&2; exit 1; }
         touch "$folder/configured"
     fi
-    nice -n 19 ninja -C "$folder/build"
+    nice -n 19 ninja -C "$folder/build" >>"$log" 2>&1 || { tail -n 50 "$log" >&2; exit 1; }
     cmake --install "$folder/build" --strip >/dev/null
     printf '%s\n' "$version" >"$folder/complete"
-    rm -rf --one-file-system "$folder/build" "$folder/source" "$folder/configured"
+    rm -rf --one-file-system "$folder/build" "$folder/source" "$folder/configured" "$log"
 }
 
 case ${1-} in
 folder) echo "$folder" ;;
 build) make_toolkit ;;
-*) sed -n 's/^# //; 2,4p' "$0" && exit 2 ;;
+*) sed -n 's/^# //; 2,5p' "$0" && exit 2 ;;
 esac
