@@ -31,7 +31,14 @@ state()
     iconv -f UTF-16 -t UTF-8 "$wine/drive_c/state.reg" | tr -d '\r' | grep '^\[' |
         grep -v '\\Wine\b\|\\Windows\\CurrentVersion\\Explorer'
     rm "$wine/drive_c/state.reg"
-    (cd "$user" && find . | sort)
+    (cd "$user" && find . -not -path './AppData/Local/Temp/*' | LC_ALL=C sort)
+}
+
+fail()
+{
+    printf '%s\n' "$1" >&2
+    import -window root "$pictures/failed.png"
+    exit 1
 }
 
 # window TITLE: waits for it, and makes it the active one.
@@ -39,9 +46,7 @@ window()
 {
     local id
     if ! id=$(timeout 60 xdotool search --sync --onlyvisible --name "^$1\$" | tail -n 1) || [ -z "$id" ]; then
-        printf 'There is no window "%s".\n' "$1" >&2
-        import -window root "$pictures/failed.png"
-        return 1
+        fail "There is no window \"$1\"."
     fi
     xdotool windowactivate --sync "$id"
     sleep 1
@@ -59,8 +64,7 @@ gone()
         xdotool search --onlyvisible --name "^$1\$" >/dev/null 2>&1 || return 0
         sleep 0.2
     done
-    printf 'The window "%s" stays.\n' "$1" >&2
-    return 1
+    fail "The window \"$1\" stays."
 }
 
 # in_dialog TITLE FILE: gives the name of a file to the system's dialog.
@@ -75,11 +79,77 @@ in_dialog()
     window Warhost
 }
 
+# The fonts that Windows has and Wine has not.
+for font in 'MS Shell Dlg' 'MS Shell Dlg 2' 'Segoe UI' Tahoma; do
+    wine reg add 'HKCU\Software\Wine\Fonts\Replacements' /v "$font" /d 'DejaVu Sans' /f >/dev/null
+done
+
 state >"$wine/before"
 wine "$setup" /S
+state | diff "$wine/before" - >"$pictures/installed.txt" || true
 wine "$installed/warhost.exe" &
 program=$!
 window Warhost
+if wine "$setup" /S; then fail 'The installer replaces a program that runs.'; fi
+
+# Side A, then Side B, then the battle; the keyboard goes from the name of an army to the tabs with Shift+Tab.
 xdotool key ctrl+l
-in_dialog 'Load Warhost Army File' korrins_anvil.Army load
+in_dialog 'Load Warhost Army File' korrins_anvil.Army load_dialog
 picture army_screen
+xdotool key ctrl+s
+in_dialog 'Save Warhost Army File' 'Korrin s Anvil' save_dialog
+cmp "$user/Documents/Korrin s Anvil.Army" "$installed/armies/korrins_anvil.Army"
+xdotool key shift+Tab Right
+sleep 1
+xdotool key ctrl+l
+in_dialog 'Load Warhost Army File' "C:\\users\\$(id -un)\\AppData\\Local\\Programs\\Warhost\\armies\\split_tusk.Army" load_dialog_b
+xdotool key shift+Tab Right
+sleep 1
+xdotool key space
+picture combat_screen
+xdotool key shift+Tab shift+Tab shift+Tab space
+window 'Simulate N Battles'
+picture question
+xdotool key Return
+window 'Warhost Simulation'
+picture report
+xdotool key Return
+gone 'Warhost Simulation'
+window Warhost
+xdotool key alt+h a
+window 'About Warhost'
+picture about
+xdotool key Return
+gone 'About Warhost'
+window Warhost
+xdotool key alt+h h
+window 'Welcome to Warhost - Warhost Help'
+picture manual
+xdotool key ctrl+w
+gone 'Welcome to Warhost - Warhost Help'
+window Warhost
+xdotool key alt+F4
+window 'Quit Warhost?'
+picture quit
+xdotool key Return
+wait $program
+
+printf 'Mine\r\n1,2\r\n' >>"$installed/modif.txt"
+wine "$setup" /S
+[ "$(tail -n 1 "$installed/modif.txt")" = $'1,2\r' ] || fail 'An upgrade has replaced the changed list.'
+cmp "$installed/modif.new.txt" data/modif.txt
+wine "$installed/uninstall.exe" /S
+for ((tries = 0; tries < 100; ++tries)); do
+    [ -e "$installed/uninstall.exe" ] || break
+    sleep 0.2
+done
+printf 'Left after uninstalling:\n'
+state | diff "$wine/before" - | grep '^[<>]' | tee "$pictures/left.txt"
+diff "$pictures/left.txt" - <<EOF
+> ./AppData/Local/Programs
+> ./AppData/Local/Programs/Warhost
+> ./AppData/Local/Programs/Warhost/modif.txt
+> ./Documents/Korrin s Anvil.Army
+EOF
+wineserver --kill || true
+rm -rf "$wine"
