@@ -107,7 +107,7 @@ xdotool key shift+Tab Right
 sleep 1
 xdotool key space
 picture combat_screen
-xdotool key shift+Tab shift+Tab shift+Tab space
+xdotool key shift+Tab shift+Tab shift+Tab shift+Tab space
 window 'Simulate N Battles'
 picture question
 xdotool key Return

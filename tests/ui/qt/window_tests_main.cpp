@@ -1,6 +1,7 @@
 #include "ui/qt/look/page_style.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -23,9 +24,12 @@ int main(int argc, char* argv[])
     screens.open(QIODevice::WriteOnly);
     screens.write(screen.arg(size.at(0), size.at(1)).toUtf8());
     screens.close();
-    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screens.fileName().toUtf8());
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=screens.json"); // a drive's colon would end the name
     qputenv("XDG_CONFIG_HOME", folder.path().toUtf8());
+    QString const start = QDir::currentPath();
+    QDir::setCurrent(folder.path());
     QApplication const application{argc, argv};
+    QDir::setCurrent(start);
     QApplication::setStyle(new warhost::PageStyle{qEnvironmentVariable("WARHOST_TEST_STYLE", "fusion")});
     QApplication::setQuitOnLastWindowClosed(false);
     return RUN_ALL_TESTS();
