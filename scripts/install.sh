@@ -126,11 +126,12 @@ build_program()
     run_ninja build/release warhost fight
 }
 
-# use_wine FOLDER: lets Wine keep what it needs there, as Windows 10, without entries for the desktop's menus and without
-# questions for parts that are not needed, and ends it with the script.
+# use_wine FOLDER: lets Wine keep what it needs there, as Windows 10 with DejaVu's fonts, without entries for the desktop's
+# menus and without questions for parts that are not needed, and ends it with the script.
 use_wine()
 {
     export WINEPREFIX=$1 WINEDLLOVERRIDES='winemenubuilder.exe=;mscoree=;mshtml=' WINEDEBUG=-all
     trap 'wineserver --kill || true' EXIT
     wine winecfg -v win10
+    cp /usr/share/fonts/truetype/dejavu/DejaVuSans*.ttf "$WINEPREFIX/drive_c/windows/Fonts"
 }

@@ -160,7 +160,7 @@ TEST_F(FileChoice, refused_after_the_desktops_dialog_shows_it_again)
         auto const choice = choices.front();
         choices.pop_front();
         if (choice)
-            return std::optional{FileChooser::Choice{to_qt(folder.path()) + "/" + choice->path, choice->settled}};
+            return std::optional{FileChooser::Choice{to_qt(folder.path(choice->path.toStdString())), choice->settled}};
         return choice;
     };
     save.file_name = "Elves.Army";

@@ -38,6 +38,8 @@ QStringList filters_of(std::string const& pairs)
 
 bool too_long(QString const& path)
 {
+    constexpr int longest_name = 255; // in whatever the system counts, no system takes more
+    if (QFileInfo{path}.fileName().size() > longest_name) return true;
     std::string const utf8 = path.toStdString();
     std::error_code error;
     auto const status = std::filesystem::symlink_status(std::u8string{utf8.begin(), utf8.end()}, error);
