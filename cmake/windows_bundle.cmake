@@ -30,10 +30,9 @@ if(WARHOST_GUI)
             ${platform} $<TARGET_FILE:Qt6::QOffscreenIntegrationPlugin> ${beside_program}/platforms
         COMMAND ${CMAKE_COMMAND} -E copy_if_different ${CMAKE_SOURCE_DIR}/data/windows/qt.conf ${beside_program} VERBATIM)
 
-    set(from ${CMAKE_SOURCE_DIR}/data)
     install(TARGETS warhost DESTINATION .)
     install(PROGRAMS ${libraries} DESTINATION .)
     install(PROGRAMS ${platform} DESTINATION platforms)
-    install(FILES ${from}/windows/qt.conf ${from}/modif.txt ${from}/about.txt DESTINATION .)
-    install(DIRECTORY ${from}/help ${from}/armies DESTINATION .)
+    install(FILES ${CMAKE_SOURCE_DIR}/data/windows/qt.conf DESTINATION .)
+    install_runtime_data(.)
 endif()
