@@ -20,20 +20,19 @@ struct ArmyControls {
 
     // The top line, and captions of all sections
 
-    ControlArray<TextLabel> Label{
-        "Label",
-        {
-            {0, "Name of Army:"},
-            {1, "#1"}, // 1 to 6, 23 and 24: the numbers of the unit rows
-            {2, "#2"},
-            {3, "#3"},
-            {4, "#4"},
-            {5, "#5"},
-            {6, "#6"},
-            {7, "(possessed by >30% of force)"}, // under the caption of Frame1
-            {23, "#7"},
-            {24, "#8"},
-        }};
+    ControlArray<TextLabel> Label{"Label",
+                                  {
+                                      {0, "Name of Army:"},
+                                      {1, "#1"}, // 1 to 6, 23 and 24: the numbers of the unit rows
+                                      {2, "#2"},
+                                      {3, "#3"},
+                                      {4, "#4"},
+                                      {5, "#5"},
+                                      {6, "#6"},
+                                      {7, "(possessed by >30% of force)"}, // under the caption of Frame1
+                                      {23, "#7"},
+                                      {24, "#8"},
+                                  }};
     TextBox txtArmyName{"txtArmyName"};
     Button cmdSaveArmy{"cmdSaveArmy", "Save"};
     Button cmdLoadArmy{"cmdLoadArmy", "Load"};
@@ -64,7 +63,7 @@ struct ArmyControls {
     Frame Frame5{"Frame5", std::string{category_captions[5]}};
     Frame Frame10{"Frame10", std::string{category_captions[6]}};
     Frame Frame11{"Frame11", std::string{category_captions[7]}};
-    ControlArray<OptionButton> opt{"opt"};                             // one for each row of options
+    ControlArray<OptionButton> opt{"opt"};                               // one for each row of options
     ControlArray<ComboBox> cmbOpt{"cmbOpt", 0, category_count - 1, "0"}; // the result of each category
     TextLabel Label15{"Label15", "Average Troop Level:"};
     ComboBox cmbLevel{"cmbLevel", "1"};
@@ -75,7 +74,8 @@ struct ArmyControls {
     // The misc panel
 
     Frame FrameMisc{"FrameMisc", "Misc. Modifiers and Feats", {6360, 360, 6135, 8295}};
-    ControlArray<CheckBox> chkMisc{"chkMisc", 0, 0, "MiscMod"}; // element 0 is never shown: rows 1, 2, ... are made like it
+    ControlArray<CheckBox> chkMisc{"chkMisc", 0, 0,
+                                   "MiscMod"}; // element 0 is never shown: rows 1, 2, ... are made like it
     ControlArray<ComboBox> cmbMisc{"cmbMisc", 0, 0, "Combo1"};
 
 private:

@@ -20,8 +20,7 @@ class ReportBox : public QDialog {
     Q_OBJECT
 
 public:
-    ReportBox(Message const& report, Tally const& tally, Odds const& odds, NumberFormat const& format,
-              QWidget* parent);
+    ReportBox(Message const& report, Tally const& tally, Odds const& odds, NumberFormat const& format, QWidget* parent);
 
 private:
     QLayout* pictures(Tally const& tally, Odds const& odds, NumberFormat const& format);
