@@ -6,6 +6,7 @@ namespace warhost {
 
 QFont in_type(QFont own, Type type)
 {
+    if (type == type::plain) return own;
     double const factor = type.pixels / Scale::base_font_pixels;
     if (own.pixelSize() > 0) own.setPixelSize(qRound(own.pixelSize() * factor));
     else own.setPointSizeF(own.pointSizeF() * factor);

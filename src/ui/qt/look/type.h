@@ -10,12 +10,14 @@ namespace warhost {
 struct Type {
     double pixels;
     QFont::Weight weight;
+
+    bool operator==(Type const&) const = default;
 };
 
 namespace type {
 
 inline constexpr Type caption{11, QFont::DemiBold}; // of sections; results, the range, totals, losses
-inline constexpr Type plain{11, QFont::Normal};
+inline constexpr Type plain{11, QFont::Normal}; // the window's own font, whatever its weight
 inline constexpr Type message{12, QFont::Normal}; // of message boxes
 inline constexpr Type odds{12, QFont::DemiBold};
 inline constexpr Type reading{13, QFont::Normal}; // descriptions, reports, the words beside the winner

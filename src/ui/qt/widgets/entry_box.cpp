@@ -35,7 +35,7 @@ EntryBox::EntryBox(Holds holds, QWidget* parent) : QLineEdit(parent), holds_(hol
 
 void EntryBox::set_type(Type type)
 {
-    if (type_.pixels == type.pixels && type_.weight == type.weight) return;
+    if (type_ == type) return;
     type_ = type;
     fit();
 }

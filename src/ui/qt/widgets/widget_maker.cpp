@@ -34,7 +34,7 @@ QLabel* WidgetMaker::label(TextLabel& field, int width, Type type) const
 {
     auto* const made = new QLabel{&screen_};
     bind(field, *made);
-    made->setFont(font(type));
+    if (type != type::plain) made->setFont(font(type));
     made->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     if (width > 0) made->setFixedWidth(pixels(width));
     return made;
