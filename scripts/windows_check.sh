@@ -19,10 +19,13 @@ trap 'kill $screen' EXIT
 read -r number <&3
 export DISPLAY=:$number
 openbox 2>/dev/null &
+export HOME=$wine/home # where Wine puts the user's documents
+mkdir -p "$HOME"
 use_wine "$wine"
 trap 'wineserver --kill || true; kill $screen' EXIT
 user=$wine/drive_c/users/$(id -un)
-installed=$user/AppData/Local/Programs/Warhost
+programs=$user/AppData/Local/Programs
+installed=$programs/Warhost
 
 # Everything of the user's, files and registry, except what Wine notes of its own.
 state()
@@ -31,7 +34,7 @@ state()
     iconv -f UTF-16 -t UTF-8 "$wine/drive_c/state.reg" | tr -d '\r' | grep '^\[' |
         grep -v '\\Wine\b\|\\Windows\\CurrentVersion\\Explorer'
     rm "$wine/drive_c/state.reg"
-    (cd "$user" && find . -not -path './AppData/Local/Temp/*' | LC_ALL=C sort)
+    (cd "$wine" && find home drive_c/users -not -path '*/Temp/*' -not -path 'home/.*' | LC_ALL=C sort)
 }
 
 fail()
@@ -98,7 +101,7 @@ in_dialog 'Load Warhost Army File' korrins_anvil.Army load_dialog
 picture army_screen
 xdotool key ctrl+s
 in_dialog 'Save Warhost Army File' 'Korrin s Anvil' save_dialog
-cmp "$user/Documents/Korrin s Anvil.Army" "$installed/armies/korrins_anvil.Army"
+cmp "$HOME/Korrin s Anvil.Army" "$installed/armies/korrins_anvil.Army"
 xdotool key shift+Tab Right
 sleep 1
 xdotool key ctrl+l
@@ -146,10 +149,10 @@ done
 printf 'Left after uninstalling:\n'
 state | diff "$wine/before" - | grep '^[<>]' | tee "$pictures/left.txt"
 diff "$pictures/left.txt" - <<EOF
-> ./AppData/Local/Programs
-> ./AppData/Local/Programs/Warhost
-> ./AppData/Local/Programs/Warhost/modif.txt
-> ./Documents/Korrin s Anvil.Army
+> ${programs#"$wine/"}
+> ${installed#"$wine/"}
+> ${installed#"$wine/"}/modif.txt
+> home/Korrin s Anvil.Army
 EOF
 wineserver --kill || true
 rm -rf "$wine"

@@ -77,7 +77,7 @@ std::string QtDesktop::input_box(InputBox const& box)
 QString QtDesktop::folder_for(FileDialogKind kind)
 {
     bool const saves = kind == FileDialogKind::save;
-    QString const samples = to_qt(program_directory()) + "/armies";
+    QString const samples = QDir::fromNativeSeparators(to_qt(program_directory())) + "/armies";
     QString chosen;
     wait_for([&] {
         for (QString const& folder : {saves ? QString{} : samples, last_folder_}) {
