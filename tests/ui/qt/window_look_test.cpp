@@ -123,7 +123,7 @@ bool inside_its_parents(QWidget const& widget)
 
 TEST(WindowLook, no_text_is_clipped_and_nothing_overlaps)
 {
-    for (double const share : {1.0, 12.0 / 11, 1.25, 15.0 / 11, 1.5}) {
+    for (double const share : {1.0, 12.0 / 11, 13.0 / 11, 1.25, 1.5, 17.0 / 11}) {
         Screen screen{share};
         fill(screen);
         auto const place_of = [&](QWidget* at) { return QRect{at->mapTo(&screen.window, QPoint{}), at->size()}; };

@@ -30,6 +30,7 @@ constexpr int gap = 4;
 constexpr int group_gap = 8;
 constexpr int column_width = 264;
 constexpr int column_gap = 20;
+constexpr int lines_width = 2 * column_width + column_gap;
 constexpr int number_width = 56;
 constexpr int result_width = 96;
 constexpr int result_height = 30;
@@ -67,7 +68,7 @@ CombatPage::CombatPage(CombatControls& controls, Scale const& scale, QSize conte
     content_area->setFixedSize(content);
     auto* const screen = new QHBoxLayout{content_area};
     screen->setContentsMargins(0, 0, 0, 0);
-    screen->setSpacing(make_.pixels(column_gap));
+    screen->setSpacing(make_.span(lines_width, lines_width + column_gap));
     auto* const left = new QVBoxLayout;
     left->setSpacing(0);
     left->addSpacing(make_.pixels(totals_top));
@@ -130,7 +131,6 @@ QWidget* CombatPage::battle_roll()
 {
     constexpr int rolls_top = 126;
     constexpr int results_top = 152;
-    constexpr int band_top = 188;
     roll_frame_ = make_.frame(controls_.Frame6);
     roll_frame_->setFixedHeight(make_.span(roll_top, roll_end));
     auto* const column = new QVBoxLayout{roll_frame_};
@@ -148,7 +148,6 @@ QWidget* CombatPage::battle_roll()
     column->addLayout(results);
     column->addStretch();
     band_ = new WinnerBand{controls_, make_};
-    band_->setFixedHeight(make_.span(band_top, roll_end));
     column->addWidget(band_);
     return roll_frame_;
 }
