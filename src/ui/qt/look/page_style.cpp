@@ -402,6 +402,14 @@ void PageStyle::drawControl(ControlElement element, QStyleOption const* option, 
         painter->fillRect(QRectF{room.left(), room.bottom() - pen.line(), room.width(), pen.line()}, colours().soft);
         return;
     }
+    case CE_MenuItem:
+    case CE_MenuBarItem:
+        if (auto const* const item = qstyleoption_cast<QStyleOptionMenuItem const*>(option)) {
+            QStyleOptionMenuItem readable = *item;
+            readable.palette.setColor(QPalette::Highlight, colours().strong);
+            QProxyStyle::drawControl(element, &readable, painter, widget);
+        }
+        return;
     case CE_ProgressBarGroove: {
         Pen pen{*painter, widget, true};
         return pen.fill(option->rect, option->rect.height() / 2.0, colours().tie);
