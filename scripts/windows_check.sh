@@ -44,15 +44,19 @@ fail()
     exit 1
 }
 
-# window TITLE: waits for it, and makes it the active one.
+# window TITLE: waits for it, and makes it the active one. Windows that vanish meanwhile make xdotool fail.
 window()
 {
     local id
-    if ! id=$(timeout 60 xdotool search --sync --onlyvisible --name "^$1\$" | tail -n 1) || [ -z "$id" ]; then
-        fail "There is no window \"$1\"."
-    fi
-    xdotool windowactivate --sync "$id"
-    sleep 1
+    for ((tries = 0; tries < 120; ++tries)); do
+        id=$(xdotool search --onlyvisible --name "^$1\$" 2>/dev/null | tail -n 1) || true
+        if [ -n "$id" ] && timeout 5 xdotool windowactivate --sync "$id" 2>/dev/null; then
+            sleep 1
+            return
+        fi
+        sleep 0.5
+    done
+    fail "There is no window \"$1\"."
 }
 
 picture()
@@ -101,7 +105,8 @@ in_dialog 'Load Warhost Army File' korrins_anvil.Army load_dialog
 picture army_screen
 xdotool key ctrl+s
 in_dialog 'Save Warhost Army File' 'Korrin s Anvil' save_dialog
-cmp "$HOME/Korrin s Anvil.Army" "$installed/armies/korrins_anvil.Army"
+wine build/windows/bin/fight.exe "$HOME/Korrin s Anvil.Army" data/armies/split_tusk.Army >"$wine/battle" 2>/dev/null || true
+grep -q "^Side A: Garrison of Korrin's Anvil" "$wine/battle" || fail 'The saved army cannot be loaded.'
 xdotool key shift+Tab Right
 sleep 1
 xdotool key ctrl+l
