@@ -17,8 +17,8 @@ struct Type {
 namespace type {
 
 inline constexpr Type caption{11, QFont::DemiBold}; // of sections; results, the range, totals, losses
-inline constexpr Type plain{11, QFont::Normal}; // the window's own font, whatever its weight
-inline constexpr Type message{12, QFont::Normal}; // of message boxes
+inline constexpr Type plain{11, QFont::Normal};     // the window's own font, whatever its weight
+inline constexpr Type message{12, QFont::Normal};   // of message boxes
 inline constexpr Type odds{12, QFont::DemiBold};
 inline constexpr Type reading{13, QFont::Normal}; // descriptions, reports, the words beside the winner
 inline constexpr Type name{13, QFont::DemiBold};  // of an army
