@@ -44,7 +44,7 @@ fail()
     exit 1
 }
 
-# window TITLE: waits for it, and makes it the active one. Windows that vanish meanwhile make xdotool fail.
+# window TITLE, a regular expression: waits for it, and makes it the active one. Windows that vanish meanwhile make xdotool fail.
 window()
 {
     local id
@@ -137,7 +137,7 @@ xdotool key ctrl+w
 gone 'Welcome to Warhost - Warhost Help'
 window Warhost
 xdotool key alt+F4
-window 'Quit Warhost?'
+window 'Quit Warhost[?]'
 picture quit
 xdotool key Return
 wait $program
