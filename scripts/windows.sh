@@ -31,6 +31,11 @@ cp /usr/share/doc/gcc-mingw-w64-base/copyright "$bundle/licences/compiler-copyri
 cp /usr/share/doc/mingw-w64-common/copyright "$bundle/licences/runtime-copyright.txt"
 sed "s/@TOOLKIT_VERSION@/$(cat "$toolkit/complete")/" data/windows/libraries.txt.in >"$bundle/licences/libraries.txt"
 
+# The day of the release for every file: the uninstaller tells by the time whether a file was changed, and the installer
+# keeps even seconds only.
+day=$(sed -n "s/^## $version (\(.*\))$/\1/p" CHANGELOG.md)
+find "$bundle" -type f -exec touch -d "$day 12:00 UTC" {} +
+
 (cd "$made" && cmake -E tar cf "$name-windows.zip" --format=zip "$name")
 
 # What the installer installs, see there.
