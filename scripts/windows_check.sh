@@ -32,7 +32,7 @@ state()
 {
     wine reg export 'HKCU\Software' 'C:\state.reg' /y >/dev/null
     iconv -f UTF-16 -t UTF-8 "$wine/drive_c/state.reg" | tr -d '\r' | grep '^\[' |
-        grep -v '\\Wine\b\|\\Windows\\CurrentVersion\\Explorer'
+        grep -v '\\Wine\b\|\\Windows\\CurrentVersion\\Explorer' | LC_ALL=C sort
     rm "$wine/drive_c/state.reg"
     (cd "$wine" && find home drive_c/users -not -path '*/Temp/*' -not -path 'home/.*' | LC_ALL=C sort)
 }
@@ -89,6 +89,11 @@ in_dialog()
 # The fonts that Windows has and Wine has not.
 for font in 'MS Shell Dlg' 'MS Shell Dlg 2' 'Segoe UI' Tahoma; do
     wine reg add 'HKCU\Software\Wine\Fonts\Replacements' /v "$font" /d 'DejaVu Sans' /f >/dev/null
+done
+
+# The keys that Windows always has.
+for key in Classes 'Microsoft\Windows\CurrentVersion\Uninstall'; do
+    wine reg add 'HKCU\Software\'"$key" /f >/dev/null
 done
 
 state >"$wine/before"
@@ -152,7 +157,7 @@ for ((tries = 0; tries < 100; ++tries)); do
     sleep 0.2
 done
 printf 'Left after uninstalling:\n'
-state | diff "$wine/before" - | grep '^[<>]' | tee "$pictures/left.txt"
+{ state | diff "$wine/before" - || true; } | grep '^[<>]' | tee "$pictures/left.txt"
 diff "$pictures/left.txt" - <<EOF
 > ${programs#"$wine/"}
 > ${installed#"$wine/"}
