@@ -10,8 +10,8 @@ namespace warhost {
 struct CasualtyRoll {
     int roll;
     int natural;
-    bool minus5; // chkMinus5 was checked
-    bool plus5;  // chkPlus5 was checked
+    bool minus5; // the -5 box was checked
+    bool plus5;  // the +5 box was checked
 };
 
 enum class Box { none, minus5, plus5 };

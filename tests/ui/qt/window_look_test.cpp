@@ -153,6 +153,13 @@ TEST(WindowLook, no_text_is_clipped_and_nothing_overlaps)
     }
 }
 
+TEST(Contrast, is_that_of_the_accessibility_guidelines)
+{
+    EXPECT_NEAR(contrast_ratio(Qt::black, Qt::white), 21, 0.001);
+    EXPECT_NEAR(contrast_ratio(QColor{0x76, 0x76, 0x76}, Qt::white), 4.54, 0.005);
+    EXPECT_NEAR(contrast_ratio(Qt::white, Qt::blue), 8.59, 0.005);
+}
+
 /// The best contrast of any pixel to the commonest colour.
 double contrast_in(QImage const& picture)
 {

@@ -11,6 +11,8 @@ namespace warhost {
 /// order is. A text wraps, inside a word too, and scrolls when it is higher than half of the screen; it can be selected
 /// and copied.
 class AnswerBox : public QDialog {
+    Q_OBJECT
+
 public:
     AnswerBox(Message const& box, QWidget* parent);
 

@@ -32,7 +32,7 @@ constexpr char ringless_property[] = "ringless";
 // Pixels of the base size.
 constexpr double field_corner = 3;
 constexpr double button_corner = 4;
-constexpr double ring_width = 2;
+constexpr int ring_width = 2;
 constexpr double inner_ring_distance = 2.5; // on a strong button
 constexpr double inner_ring_width = 1;
 constexpr int indicator_size = 14;
@@ -185,8 +185,9 @@ void draw_indicator(QStyleOption const& option, QPainter& painter, QWidget const
     if (!on || of.high_contrast) pen.outline(room, corner, hovered ? of.ring : of.firm, pen.line());
     if (is_in(option, QStyle::State_NoChange)) {
         double const middle = room.center().y();
-        pen.stroke({{{room.left() + room.width() * 0.28, middle}, {room.right() - room.width() * 0.28, middle}}},
-                   of.text, 1.8);
+        QPointF const from{room.left() + room.width() * 0.28, middle};
+        QPointF const to{room.right() - room.width() * 0.28, middle};
+        pen.stroke(QPolygonF{QList<QPointF>{from, to}}, of.text, 1.8);
     }
     if (!on) return;
     if (round) {
@@ -351,8 +352,13 @@ void PageStyle::drawPrimitive(PrimitiveElement element, QStyleOption const* opti
     case PE_Frame: {
         Pen pen{*painter, widget, is_in(*option, State_Enabled)};
         if (is_in(*option, State_HasFocus)) pen.ring(option->rect, 0);
-        else if (is_in(*option, State_Sunken)) pen.outline(option->rect, 0, colours().soft, pen.line());
+        else if (is_in(*option, State_Sunken) || (widget != nullptr && widget->window()->windowType() == Qt::Popup))
+            pen.outline(option->rect, 0, colours().soft, pen.line());
         return;
+    }
+    case PE_FrameMenu: {
+        Pen pen{*painter, widget, true};
+        return pen.outline(option->rect, 0, colours().high_contrast ? colours().firm : colours().soft, pen.line());
     }
     case PE_FrameLineEdit:
     case PE_FrameTabWidget:

@@ -46,12 +46,10 @@ constexpr int roll_all_end = 90;
 constexpr int roll_top = 100;
 constexpr int roll_end = 224;
 constexpr int casualties_top = 238;
-constexpr int loser_top = 266;
 constexpr int victor_roll_top = 290;
 constexpr int victor_share_top = 314;
 constexpr int sides_top = 342;
 constexpr int sides_end = 565;
-constexpr int simulate_top = 578;
 constexpr int screen_end = 600;
 
 QString spoken_side(int Index) { return to_qt(side_name(Index)); }
@@ -93,8 +91,8 @@ QLayout* CombatPage::totals()
     auto* const grid = new QGridLayout;
     grid->setSpacing(0);
     grid->setColumnMinimumWidth(0, make_.pixels(column_width));
-    grid->setColumnMinimumWidth(1, make_.pixels(column_gap));
-    grid->setColumnMinimumWidth(2, make_.pixels(column_width));
+    grid->setColumnMinimumWidth(1, make_.span(column_width, column_width + column_gap));
+    grid->setColumnMinimumWidth(2, make_.span(column_width + column_gap, lines_width));
     for (int const Index : {0, 1}) {
         auto const k = static_cast<std::size_t>(Index);
         auto* const line = make_.row(gap);
@@ -136,10 +134,14 @@ QWidget* CombatPage::battle_roll()
     auto* const column = new QVBoxLayout{roll_frame_};
     column->setContentsMargins(0, make_.span(roll_top, rolls_top), 0, 0);
     column->setSpacing(0);
-    auto* const rolls = make_.row(column_gap);
+    auto* const rolls = make_.row(0);
     for (int const Index : {0, 1}) {
-        rolls->addWidget(
-            make_.button(controls_.cmdRoll(Index), "Roll for " + spoken_side(Index), column_width, button_height));
+        auto* const roll =
+            make_.button(controls_.cmdRoll(Index), "Roll for " + spoken_side(Index), column_width, button_height);
+        int const left = Index * (column_width + column_gap);
+        roll->setFixedWidth(make_.span(left, left + column_width)); // together as wide as the frame
+        rolls->addWidget(roll);
+        if (Index == 0) rolls->addSpacing(make_.span(column_width, column_width + column_gap));
     }
     auto* const results = make_.row(column_gap);
     for (int const Index : {0, 1}) results->addLayout(result(Index));
@@ -292,11 +294,13 @@ void CombatPage::show_army_names(std::array<QString, 2> const& names)
 {
     for (std::size_t k = 0; k < names.size(); ++k) {
         QString const& name = names.at(k);
+        if (sides_.at(k)->note() != name) signs_.loss_set(static_cast<int>(k)); // of another army nothing was taken off
         names_.at(k)->set_whole_text(name.isEmpty() ? spoken_side(static_cast<int>(k)) : name);
         totals_.at(k)->setAccessibleDescription(name);
         sides_.at(k)->set_note(name);
     }
     band_->show_army_names(names);
+    show_signs();
 }
 
 void CombatPage::focus_first_step() { roll_all_->setFocus(Qt::OtherFocusReason); }
@@ -344,7 +348,8 @@ void CombatPage::follow_box(CheckBox& field, QCheckBox* box)
 void CombatPage::show_signs()
 {
     using enum BattleSigns::Reroll;
-    auto const due = signs_.reroll();
+    // A tie has no victor, and a roll would change nothing.
+    auto const due = shown_winner(controls_) == tie ? none : signs_.reroll();
     set_strong(*roll_all_, due == none);
     set_strong(*roll_casualty_, due == casualty_roll);
     set_strong(*roll_share_, due == share);

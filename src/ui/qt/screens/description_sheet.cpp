@@ -55,7 +55,11 @@ DescriptionSheet::DescriptionSheet(CombatControls& controls, WidgetMaker& make, 
         caption->setBuddy(text);
         text->setFrameShape(QFrame::NoFrame);
         text->setFont(make.font(type::reading));
-        text->viewport()->setFont(make.font(type::plain)); // of the placeholder
+        QFont placeholder = make.font(type::plain);
+        // The size is set to what it is, so that the text's larger one is not inherited.
+        if (placeholder.pixelSize() > 0) placeholder.setPixelSize(placeholder.pixelSize());
+        else placeholder.setPointSizeF(placeholder.pointSizeF());
+        text->viewport()->setFont(placeholder);
         text->document()->setDocumentMargin(make.pixels(text_margin));
         text->viewport()->setAutoFillBackground(false);
         text->installEventFilter(this);

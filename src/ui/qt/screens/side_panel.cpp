@@ -123,9 +123,9 @@ void SidePanel::show_signs(BattleSigns const& signs)
 
 QString SidePanel::share(BattleSigns const& signs) const
 {
+    if (signs.applied(Index_)) return "\u2713 Applied";
     auto const winner = shown_winner(controls_);
     if (!winner) return {};
-    if (signs.applied(Index_)) return "\u2713 Applied";
     bool const loses = loser_index(*winner) == Index_;
     QString const who = *winner == tie ? "Tie: loses" : loses ? "Loser loses" : "Victor loses";
     TextBox const& percentage = loses ? controls_.txtLoserCasualty : controls_.txtVictorCas;

@@ -23,6 +23,7 @@ public:
 
     /// A note behind the caption, cut short where there is no room; the tool tip then has it whole.
     void set_note(QString const& note);
+    QString const& note() const { return note_; }
 
     /// A hint at the right end of the head; empty for none. Screen readers hear it as the frame's description.
     void set_hint(QString const& hint);
