@@ -47,7 +47,7 @@ private:
     int steps_ = 0;
 };
 
-/// One bar for wins and ties. The parts are told apart by pattern and label, not by colour alone.
+/// One bar for wins and ties. The parts differ in pattern and label, not in colour alone.
 class OutcomeBar : public QWidget {
     Q_OBJECT
 

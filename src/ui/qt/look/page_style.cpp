@@ -305,7 +305,7 @@ public:
     explicit PagePaletteFollower(QWidget& widget) : QObject(&widget), widget_(widget)
     {
         setObjectName("PagePaletteFollower");
-        widget.window()->installEventFilter(this); // windows alone are told of the user's palette
+        widget.window()->installEventFilter(this); // only windows are notified of the user's palette
         widget.setPalette(page_palette());
     }
 

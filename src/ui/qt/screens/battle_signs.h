@@ -1,4 +1,4 @@
-// What the combat screen tells of the battle's course, beyond its fields.
+// The state of a battle that the combat screen shows beside its fields.
 #pragma once
 
 #include <array>
