@@ -322,8 +322,12 @@ void OutcomeBar::draw_part(QPainter& painter, std::size_t part, QRect const& roo
     if (part == 2) {
         painter.setPen(QPen{mixture(fill, colours().page, 12), scale.factor() * hatch_width});
         double const high = room.height();
-        for (double x = room.left() - high; x < room.right() + 1; x += scale.factor() * hatch_step)
+        double const step = scale.factor() * hatch_step;
+        int const stripes = static_cast<int>((room.width() + high) / step) + 1;
+        for (int stripe = 0; stripe < stripes; ++stripe) {
+            double const x = room.left() - high + stripe * step;
             painter.drawLine(QLineF{x, high, x + high, 0});
+        }
     }
     painter.restore();
 }
@@ -333,7 +337,8 @@ void OutcomeBar::draw_tick(QPainter& painter, QRect const& part, QRect const& la
 {
     double const from = part.center().x() + 0.5;
     double const to = std::clamp<double>(from, label.left() + 0.5, label.right() + 0.5);
-    double const middle = (part.bottom() + 1 + label.top()) / 2 + 0.5;
+    int const half_way = (part.bottom() + 1 + label.top()) / 2;
+    double const middle = half_way + 0.5;
     painter.setPen(QPen{colours().firm, static_cast<double>(scale_of(this).line())});
     painter.drawPolyline(
         QPolygonF{{{from, part.bottom() + 1.0}, {from, middle}, {to, middle}, {to, label.top() + 0.0}}});
@@ -353,9 +358,9 @@ void OutcomeBar::paintEvent(QPaintEvent* /*event*/)
         painter.setPen(inside && part != 1 ? colours().text_on_side.at(part / 2) : colours().text);
         int const margin = inside ? scale_of(this).from_base(label_margin) : 0;
         painter.drawText(room.adjusted(margin, 0, -margin, 0),
-                         Qt::AlignVCenter | (!inside || part == 0 ? Qt::AlignLeft
-                                             : part == 1          ? Qt::AlignHCenter
-                                                                  : Qt::AlignRight),
+                         static_cast<int>(Qt::AlignVCenter | (!inside || part == 0 ? Qt::AlignLeft
+                                                              : part == 1          ? Qt::AlignHCenter
+                                                                                   : Qt::AlignRight)),
                          text);
         if (!inside && !in_bar.at(part).isEmpty()) draw_tick(painter, in_bar.at(part), room);
     }

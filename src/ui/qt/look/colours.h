@@ -11,8 +11,8 @@ namespace warhost {
 /// Every text colour has a contrast of 4.5 to what it is written on; indicators and the ring have 3. Arrays: 0 for
 /// Side A, 1 for Side B.
 struct Colours {
-    bool dark;          // the page is darker than its text
-    bool high_contrast; // black or white throughout; lines replace stripes
+    bool dark = false;          // the page is darker than its text
+    bool high_contrast = false; // black or white throughout; lines replace stripes
 
     QColor strip; // behind the menus and the tabs
     QColor page;  // behind everything below them, and behind dialogs

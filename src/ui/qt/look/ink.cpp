@@ -9,7 +9,7 @@ namespace warhost {
 
 namespace {
 
-constexpr char ink_property[] = "ink";
+constexpr char const* ink_property = "ink";
 
 QColor colour_of(Ink ink)
 {

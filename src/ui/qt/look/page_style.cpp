@@ -25,9 +25,9 @@ namespace warhost {
 
 namespace {
 
-constexpr char cell_property[] = "cell";
-constexpr char strong_property[] = "strong";
-constexpr char ringless_property[] = "ringless";
+constexpr char const* cell_property = "cell";
+constexpr char const* strong_property = "strong";
+constexpr char const* ringless_property = "ringless";
 
 // Pixels of the base size.
 constexpr double field_corner = 3;
