@@ -4,7 +4,6 @@
 
 #include <QDropEvent>
 #include <QMimeData>
-#include <QTimer>
 #include <QUrl>
 #include <QWidget>
 #include <QWindow>
@@ -35,15 +34,15 @@ ArmyDrop::ArmyDrop(QWidget& window, Load load) : QObject(&window), window_(windo
 
 bool ArmyDrop::eventFilter(QObject* watched, QEvent* event)
 {
-    bool const drops = event->type() == QEvent::Drop;
-    if (!drops && event->type() != QEvent::DragEnter && event->type() != QEvent::DragMove)
-        return QObject::eventFilter(watched, event);
-    auto& drag = static_cast<QDropEvent&>(*event);
-    QString const path = army_path(*drag.mimeData());
+    auto* const drag = dynamic_cast<QDropEvent*>(event); // entering, moving or dropping
+    if (drag == nullptr) return QObject::eventFilter(watched, event);
+    QString const path = army_path(*drag->mimeData());
     if (path.isEmpty() || !takes_input(window_)) return QObject::eventFilter(watched, event);
-    drag.setDropAction(Qt::CopyAction);
-    drag.accept();
-    if (drops) QTimer::singleShot(0, this, [this, path] { load_(path.toStdString()); });
+    drag->setDropAction(Qt::CopyAction);
+    drag->accept();
+    if (event->type() == QEvent::Drop)
+        QMetaObject::invokeMethod(
+            this, [this, path] { load_(path.toStdString()); }, Qt::QueuedConnection);
     return true;
 }
 

@@ -181,16 +181,16 @@ QWidget* CombatPage::casualties()
     constexpr int first_top = casualties_top + CaptionFrame::contents_top;
     column->setContentsMargins(0, make_.span(casualties_top, first_top), 0, 0);
     column->setSpacing(0);
-    auto const add = [&](QLayout* line, int top, int end, int below = 0) {
+    auto const add = [&](QLayout* line, int from, int to, int below = 0) {
         auto* const holder = new QWidget;
         line->setContentsMargins(0, 0, 0, below);
         holder->setLayout(line);
-        holder->setFixedHeight(make_.span(top, end));
+        holder->setFixedHeight(make_.span(from, to));
         column->addWidget(holder);
     };
     add(loser_line(), first_top, victor_roll_top);
     // What is below the boxes takes up the rounding of both heights.
-    auto const below_boxes = [&](int top, int end) { return make_.span(top, end) - make_.pixels(field_height); };
+    auto const below_boxes = [&](int from, int to) { return make_.span(from, to) - make_.pixels(field_height); };
     add(victor_roll_line(), victor_roll_top, victor_share_top, below_boxes(victor_roll_top, victor_share_top));
     add(victor_percent_line(), victor_share_top, sides_top, below_boxes(victor_share_top, sides_top));
     auto* const sides = make_.row(column_gap);

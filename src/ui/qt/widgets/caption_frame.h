@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QGroupBox>
+#include <QLayout>
 
 #include <optional>
 
@@ -34,7 +35,7 @@ public:
     /// The font in which the caption fits.
     QFont caption_font() const;
 
-    QSize minimumSizeHint() const override { return QWidget::minimumSizeHint(); }
+    QSize minimumSizeHint() const override { return layout() != nullptr ? layout()->totalMinimumSize() : QSize{}; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
