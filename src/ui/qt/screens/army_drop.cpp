@@ -28,6 +28,9 @@ QString army_path(QMimeData const& dragged)
 
 ArmyDrop::ArmyDrop(QWidget& window, Load load) : QObject(&window), window_(window), load_(std::move(load))
 {
+    connect(
+        this, &ArmyDrop::dropped, this, [this](QString const& path) { load_(path.toStdString()); },
+        Qt::QueuedConnection);
     window.setAcceptDrops(true);
     window.windowHandle()->installEventFilter(this);
 }

@@ -23,6 +23,9 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
+signals:
+    void dropped(QString const& path);
+
 private:
     QWidget& window_;
     Load load_;
