@@ -43,9 +43,7 @@ bool ArmyDrop::eventFilter(QObject* watched, QEvent* event)
     if (path.isEmpty() || !takes_input(window_)) return QObject::eventFilter(watched, event);
     drag->setDropAction(Qt::CopyAction);
     drag->accept();
-    if (event->type() == QEvent::Drop)
-        QMetaObject::invokeMethod(
-            this, [this, path] { load_(path.toStdString()); }, Qt::QueuedConnection);
+    if (event->type() == QEvent::Drop) emit dropped(path);
     return true;
 }
 
