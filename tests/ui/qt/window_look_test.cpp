@@ -328,13 +328,13 @@ TEST(WindowLook, a_text_that_does_not_fit_or_counts_as_something_else_is_explain
     soldiers.setFocus();
     EXPECT_EQ(name.accessibleDescription(), long_name);
     struct {
-        char const *typed, *told;
+        char const *typed, *tooltip;
     } const rows[] = {
         {"12 men", "Counts as 12"}, {"+12", ""}, {"1,000", "Counts as 1"}, {"12", ""}, {"Pikes", "Counts as 0"}};
-    for (auto const& [typed, told] : rows) {
+    for (auto const& [typed, tooltip] : rows) {
         soldiers.clear();
         QTest::keyClicks(&soldiers, typed);
-        EXPECT_EQ(soldiers.toolTip(), told) << typed;
+        EXPECT_EQ(soldiers.toolTip(), tooltip) << typed;
         EXPECT_EQ(soldiers.text(), typed);
     }
 }

@@ -4,8 +4,8 @@
 #include <QObject>
 
 #include <functional>
+#include <string>
 
-class QMimeData;
 class QWidget;
 
 namespace warhost {
