@@ -28,7 +28,7 @@ protected:
 
 private:
     int division_; // pixels from the sheet's top
-    std::array<QTextEdit*, 2> panes_;
+    std::array<QTextEdit*, 2> panes_{};
 };
 
 } // namespace warhost

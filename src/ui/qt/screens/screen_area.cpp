@@ -26,8 +26,11 @@ void ScreenArea::show_whole(QWidget const& at)
     ensureVisible(room.center().x(), room.center().y(), room.width() / 2 + around, room.height() / 2 + around);
 }
 
-/// What has got the focus is in sight already.
-bool ScreenArea::focusNextPrevChild(bool next) { return QWidget::focusNextPrevChild(next); }
+/// Without the scrolling of QScrollArea: what has got the focus is in sight already.
+bool ScreenArea::focusNextPrevChild(bool next)
+{
+    return QWidget::focusNextPrevChild(next); // NOLINT(bugprone-parent-virtual-call)
+}
 
 void ScreenArea::place(QRect const& room, QSize content, bool scrolls)
 {

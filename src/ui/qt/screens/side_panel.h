@@ -36,8 +36,8 @@ private:
     bool applied_ = false;
     QLabel* share_;
     QPushButton* apply_;
-    std::array<EntryBox*, unit_rows> counts_;
-    std::array<EntryBox*, unit_rows> losses_;
+    std::array<EntryBox*, unit_rows> counts_{};
+    std::array<EntryBox*, unit_rows> losses_{};
 };
 
 } // namespace warhost

@@ -32,7 +32,7 @@ constexpr int gap = 8;
 
 std::optional<BattleWinner> shown_winner(CombatControls const& controls)
 {
-    auto const place = std::ranges::find(winner_captions, controls.lblWinner.caption());
+    auto const* const place = std::ranges::find(winner_captions, controls.lblWinner.caption());
     if (place == winner_captions.end()) return {};
     return static_cast<BattleWinner>(place - winner_captions.begin());
 }
