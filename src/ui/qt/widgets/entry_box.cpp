@@ -72,11 +72,11 @@ void EntryBox::fit_number()
     QFont const own = window()->font();
     QFont chosen = in_type(own, type_);
     auto const fits = [&](QFont const& font) {
-        return QFontMetrics{font}.horizontalAdvance(text()) < room().width(); // the cursor stands behind it
+        return text().isEmpty() || QFontMetrics{font}.horizontalAdvance(text()) < room().width(); // then the cursor
     };
     for (double const size : smaller_sizes) {
-        if (size >= type_.pixels || fits(chosen)) continue;
-        chosen = in_type(own, {size, QFont::Normal});
+        if (fits(chosen)) break;
+        if (size < type_.pixels) chosen = in_type(own, {size, QFont::Normal});
     }
     if (font() != chosen) setFont(chosen);
 }
