@@ -74,7 +74,6 @@ private:
         if (c == '\\' || c == '{' || c == '}') append(symbol);
         else if (c == '\'') byte_in_hex();
         else if (c == '*') state_.skipped = true;
-        else if (c == '\r' || c == '\n') end_paragraph();
     }
 
     void control_word()
@@ -86,8 +85,6 @@ private:
         static constexpr std::array rows{
             Row{"b", [](Reader& reader, bool is_zero) { reader.state_.bold = !is_zero; }},
             Row{"par", [](Reader& reader, bool) { reader.end_paragraph(); }},
-            Row{"line", [](Reader& reader, bool) { reader.end_paragraph(); }},
-            Row{"tab", [](Reader& reader, bool) { reader.append("\t"); }},
             Row{"rtf", [](Reader&, bool) {}},
         };
         std::string_view const word = take_while(is_letter);
