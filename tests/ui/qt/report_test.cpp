@@ -3,6 +3,7 @@
 #include "ui/qt/dialogs/battle_charts.h"
 #include "ui/qt/dialogs/qt_desktop.h"
 #include "ui/qt/dialogs/report_box.h"
+#include "ui/qt/look/colours.h"
 #include "ui/qt/look/type.h"
 
 #include <QApplication>
@@ -12,6 +13,9 @@
 #include <QTest>
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
 
 namespace warhost {
 namespace {
@@ -51,9 +55,45 @@ TEST(Report, shows_the_exact_odds_beside_its_text_and_on_the_bars_and_copies_its
         QTest::keyClick(&box, Qt::Key_C, Qt::ControlModifier);
         return QApplication::clipboard()->text();
     };
-    EXPECT_TRUE(copied().contains("A  B \n") && copied().contains("95 % confidence")) << copied().toStdString();
+    EXPECT_TRUE(copied().contains("A  B \n")) << copied().toStdString();
+    EXPECT_TRUE(copied().contains("95 % confidence")) << copied().toStdString();
     box.findChild<QLabel*>()->setSelection(0, 4);
     EXPECT_EQ(copied(), "A  B");
+}
+
+TEST(CasualtyHistogram, draws_the_bars_and_the_mean_of_its_own_side_on_the_scale_of_both)
+{
+    Tally tally; // B loses 50% once and 100% three times, A twice 20% and twice 30%
+    for (int const share : {20, 20, 30}) tally.count(side_a_won, 31, share);
+    tally.count(side_a_won, 14, 60);
+    struct Row {
+        double left, right, mean;       // percent lost
+        double left_share, right_share; // battles
+    };
+    double unit = 0, start = 0, high = 0; // pixels of one percent lost; where no loss stands; pixels of one battle
+    for (Row const& row : {Row{50, 100, 87.5, 1, 3}, Row{20, 30, 25, 2, 2}}) {
+        int const Index = row.left == 20 ? 0 : 1;
+        QImage const image = CasualtyHistogram{Index, tally, {0, 0}, {}}.grab().toImage();
+        std::map<int, int> bars, lines; // pixels by column, below the title
+        for (int y = image.height() / 8; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                QColor const pixel = image.pixelColor(x, y);
+                bars[x] += pixel == colours().side.at(static_cast<std::size_t>(Index)) ? 1 : 0;
+                lines[x] += pixel == colours().text ? 1 : 0;
+            }
+        }
+        int const mean = std::ranges::max_element(lines, {}, &std::pair<int const, int>::second)->first;
+        std::erase_if(bars, [](auto const& column) { return column.second < 10; });
+        ASSERT_FALSE(bars.empty());
+        auto const [left, left_height] = *bars.begin();
+        auto const [right, right_height] = *bars.rbegin();
+        if (Index == 1) unit = (right - left) / 50.0, start = left - 50 * unit, high = right_height / 3.0;
+        EXPECT_NEAR(left_height, row.left_share * high, 2);
+        EXPECT_NEAR(right_height, row.right_share * high, 2);
+        EXPECT_NEAR(left, start + row.left * unit, 3);
+        EXPECT_NEAR(right, start + row.right * unit, 3);
+        EXPECT_NEAR(mean, start + row.mean * unit, 3);
+    }
 }
 
 TEST(OutcomeBar, writes_each_share_in_its_part_or_below_and_no_label_over_another)
