@@ -71,6 +71,7 @@ struct ArmyControls {
     TextLabel lblOtherLevel{"lblOtherLevel", "0"}; // the other side's average level
     TextLabel Label18{"Label18", "gives"};
     TextLabel lblLevelBonus{"lblLevelBonus", "+0"};
+
     // The misc panel
 
     Frame FrameMisc{"FrameMisc", "Misc. Modifiers and Feats", {6360, 360, 6135, 8295}};

@@ -96,7 +96,8 @@ UNDER_FIRE(int, linkat, (int from, char const* file, int to, char const* path, i
            (from, file, to, path, flags), struck(), named)
 UNDER_FIRE(ssize_t, read, (int file, void* bytes, size_t count), (file, bytes, cut(count)),
            (fire != nullptr && fails_always(fire->read_error)) || struck(true), ended)
-UNDER_FIRE(int, renameat, (int from, char const* file, int to, char const* path), (from, file, to, path), struck(), named)
+UNDER_FIRE(int, renameat, (int from, char const* file, int to, char const* path), (from, file, to, path), struck(),
+           named)
 UNDER_FIRE(int, stat, (char const* path, struct stat* status), (path, status), struck(), ended)
 UNDER_FIRE(int, unlinkat, (int folder, char const* path, int flags), (folder, path, flags), struck(), ended)
 

@@ -32,7 +32,8 @@ TEST_F(ArmyFiles, are_asked_for_on_the_army_tabs)
         {"", ".Army"}, {"Orcs", "Orcs.Army"}, {"a:b/c?", "a_b_c_.Army"}, {"v1.2", "v1_2.Army"},
         {"\\/:*?\"<>|.", "__________.Army"}, {"Fée #1", "Fée #1.Army"},
         // At most 255 bytes, and no half of a character.
-        {std::string(250, 'x'), std::string(250, 'x') + ".Army"}, {std::string(251, 'x'), std::string(250, 'x') + ".Army"},
+        {std::string(250, 'x'), std::string(250, 'x') + ".Army"},
+        {std::string(251, 'x'), std::string(250, 'x') + ".Army"},
         {std::string(248, 'x') + "éé", std::string(248, 'x') + "é.Army"},
         {std::string(248, 'x') + "€", std::string(248, 'x') + ".Army"},
     };

@@ -87,7 +87,7 @@ TEST(SimulateCommand, fights_as_many_battles_as_it_is_asked_for_in_batches)
     EXPECT_TRUE(fighter.random == last.random);
 }
 
-TEST(SimulateCommand, has_a_fingerprint)
+TEST(SimulateCommand, repeats_its_battles_for_the_same_seed)
 {
     Fighter fighter{{3, 1, 1, 0, 0, 0, 0, 0}, 20};
     fighter.desktop.typed = "1000";

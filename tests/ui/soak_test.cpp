@@ -18,8 +18,8 @@ struct AnyUser : Started<Generator> {
     std::string any_text()
     {
         // clang-format off
-        char const* const texts[] = {"", "12 men", "-7", "1e9", "2147483648", "99.5", "&HFF", "<b>Élan</b>", "+3", "2,5",
-                                     "0", "4", "250", "-2000000000", "x", "20", "1"}; // clang-format on
+        char const* const texts[] = {"", "12 men", "-7", "1e9", "2147483648", "99.5", "&HFF", "<b>Élan</b>", "+3",
+                                     "2,5", "0", "4", "250", "-2000000000", "x", "20", "1"}; // clang-format on
         return texts[any(std::size(texts) - 1)];
     }
 

@@ -19,8 +19,8 @@ int main(int argc, char* argv[])
     // The off-screen platform's own screen is too small for a window at larger fonts.
     QFile screens{folder.filePath("screens.json")};
     QStringList const size = qEnvironmentVariable("WARHOST_TEST_SCREEN", "4000x3000").split('x');
-    QString const screen =
-        R"({"screens":[{"name":"one","x":0,"y":0,"width":%1,"height":%2,"logicalDpi":96,"logicalBaseDpi":96,"dpr":1}]})";
+    QString const screen = R"({"screens":[{"name":"one","x":0,"y":0,"width":%1,"height":%2,)"
+                           R"("logicalDpi":96,"logicalBaseDpi":96,"dpr":1}]})";
     screens.open(QIODevice::WriteOnly);
     screens.write(screen.arg(size.at(0), size.at(1)).toUtf8());
     screens.close();
