@@ -21,7 +21,7 @@ public:
     File& operator=(File const&) = delete;
     ~File() { close(); }
 
-    bool open(std::filesystem::path const& path, DWORD access, DWORD sharing, DWORD disposition);
+    [[nodiscard]] bool open(std::filesystem::path const& path, DWORD access, DWORD sharing, DWORD disposition);
     void close();
     HANDLE handle() const { return handle_; }
 

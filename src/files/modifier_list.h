@@ -29,7 +29,7 @@ public:
     explicit ModifierList(std::string bytes);
 
     /// The next entry; nothing at the end. Throws only std::bad_alloc, and then gives the same entry when called again.
-    std::optional<ModifierEntry> next();
+    [[nodiscard]] std::optional<ModifierEntry> next();
 
 private:
     std::string bytes_;

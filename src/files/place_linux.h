@@ -19,8 +19,8 @@ struct Place {
 Place place_of(std::filesystem::path const& path);
 
 /// Whether the file at the place is the one that was opened, or is missing if none was.
-bool holds(Place const& place, Descriptor const& opened);
+[[nodiscard]] bool holds(Place const& place, Descriptor const& opened);
 
-bool same_file(struct stat const& one, struct stat const& other);
+[[nodiscard]] bool same_file(struct stat const& one, struct stat const& other);
 
 } // namespace warhost

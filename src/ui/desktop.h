@@ -77,10 +77,10 @@ public:
     virtual void wait_for(std::function<void()> const& work) { work(); }
 
     /// The text typed; empty when cancelled.
-    virtual std::string input_box(InputBox const& box) = 0;
+    [[nodiscard]] virtual std::string input_box(InputBox const& box) = 0;
 
     /// The chosen path, UTF-8; nothing when cancelled.
-    virtual std::optional<std::string> file_dialog(FileDialog const& dialog) = 0;
+    [[nodiscard]] virtual std::optional<std::string> file_dialog(FileDialog const& dialog) = 0;
 
     virtual bool minimized() = 0;
     virtual ClientArea client_area() = 0;
@@ -102,7 +102,7 @@ public:
     virtual void show_help(int topic) = 0;
 
     /// Opens an address in the default browser, does not wait; false when that failed.
-    virtual bool open_address(std::string const& address) = 0;
+    [[nodiscard]] virtual bool open_address(std::string const& address) = 0;
 
     /// Shows the About box, or brings the open one to the front; does not wait.
     virtual void show_about() = 0;

@@ -41,7 +41,7 @@ public:
     void Form_Load();
     void Form_Resize();
     /// Asks whether to quit; false refuses the request to close.
-    bool Form_QueryUnload();
+    [[nodiscard]] bool Form_QueryUnload();
     void mnuQuit_Click();
     void mnuLoad_Click();
     void mnuSave_Click();
@@ -113,7 +113,7 @@ public:
     /// Shows the pending error, if there is one, and clears it; Abort ends the program.
     void ErrReport(std::string_view context);
     /// Shows a message when the file is missing, and returns false.
-    bool CheckFile(std::string const& path);
+    [[nodiscard]] bool CheckFile(std::string const& path);
 
     /// Runs one step of a procedure that reports at its end: a Failure, or a lack of memory, becomes the pending error.
     template <class Step> void step(Step&& run)
@@ -172,7 +172,7 @@ private:
     /// Rows that the record can hold: none while check boxes and values do not come in equal numbers.
     int counted_misc_rows();
     void show_total_modifiers();
-    bool refused_on_combat_tab();
+    [[nodiscard]] bool refused_on_combat_tab();
     void load_chosen(std::function<std::optional<std::string>()> const& choose);
     bool make_misc_row();
     void place_misc_row(int row);

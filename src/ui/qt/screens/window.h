@@ -27,7 +27,7 @@ public:
 
     /// Asks as for any other request to close the window, where it may ask at all; after a Yes the window closes from
     /// the event loop, without asking again. False, also while a file is read or written, when the session must go on.
-    bool session_may_end(bool may_ask);
+    [[nodiscard]] bool session_may_end(bool may_ask);
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -52,7 +52,7 @@ private:
     void show_army_names();
     QString level_in_digits(QString const& text);
     bool waits_for_disk() const;
-    bool confirms_quit();
+    [[nodiscard]] bool confirms_quit();
 
     Main& form_;
     QtDesktop& desktop_;
