@@ -337,6 +337,9 @@ TEST(WindowLook, a_text_that_does_not_fit_or_counts_as_something_else_is_explain
         EXPECT_EQ(soldiers.toolTip(), tooltip) << typed;
         EXPECT_EQ(soldiers.text(), typed);
     }
+    screen.choose_tab(3);
+    screen.form.txtTotalMod(0).set_text("2 or 3");
+    EXPECT_EQ(screen.named<QLineEdit>("txtTotalMod(0)").accessibleDescription(), long_name + ". Counts as 2");
 }
 
 TEST(WindowLook, the_usual_keys_change_tabs_and_the_keyboard_follows)

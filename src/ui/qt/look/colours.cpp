@@ -85,6 +85,8 @@ Colours const& colours()
     return *latest;
 }
 
+QColor in_state(bool enabled, QColor const& colour) { return enabled ? colour : mixture(colour, colours().page, 50); }
+
 QPalette page_palette()
 {
     Colours const& of = colours();
@@ -97,7 +99,7 @@ QPalette page_palette()
     made.setColor(QPalette::Link, of.hint);
     made.setColor(QPalette::LinkVisited, of.hint);
     for (auto const role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::PlaceholderText}) {
-        made.setColor(QPalette::Disabled, role, mixture(of.text, of.page, 50));
+        made.setColor(QPalette::Disabled, role, in_state(false, of.text));
     }
     return made;
 }

@@ -48,6 +48,9 @@ Colours colours_of(QPalette const& palette);
 /// The colours of the application's palette, up to date after it has changed.
 Colours const& colours();
 
+/// The colour itself, or half of the page's in it for what is disabled.
+QColor in_state(bool enabled, QColor const& colour);
+
 /// The application's palette with the page for Window, for the widgets on the page.
 QPalette page_palette();
 

@@ -70,7 +70,7 @@ QColor draw_ground(QPainter& painter, QStyle::StandardPixmap which, QIcon::Mode 
         painter.drawEllipse(QRectF{1, 1, 14, 14});
         return of.text_on_error;
     }
-    return mode == QIcon::Disabled ? mixture(of.text, of.page, 50) : of.text;
+    return in_state(mode != QIcon::Disabled, of.text);
 }
 
 class LineIcon : public QIconEngine {

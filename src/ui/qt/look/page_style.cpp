@@ -101,7 +101,7 @@ public:
     }
 
 private:
-    QColor shown(QColor const& colour) const { return enabled_ ? colour : mixture(colour, colours().page, 50); }
+    QColor shown(QColor const& colour) const { return in_state(enabled_, colour); }
 
     QPainter& painter_;
     Scale scale_;

@@ -296,7 +296,7 @@ void CombatPage::show_army_names(std::array<QString, 2> const& names)
         QString const& name = names.at(k);
         if (sides_.at(k)->note() != name) signs_.loss_set(static_cast<int>(k)); // of another army nothing was taken off
         names_.at(k)->set_whole_text(name.isEmpty() ? spoken_side(static_cast<int>(k)) : name);
-        totals_.at(k)->setAccessibleDescription(name);
+        totals_.at(k)->set_description(name);
         sides_.at(k)->set_note(name);
     }
     band_->show_army_names(names);

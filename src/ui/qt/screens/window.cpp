@@ -23,6 +23,7 @@
 #include <QSignalBlocker>
 #include <QStyle>
 
+#include <algorithm>
 #include <array>
 #include <chrono>
 
@@ -220,10 +221,13 @@ void Window::place_tab_strip()
     tabs_->update();
 }
 
+/// What scrolls passes below the strip, whose line the combat screen would cover.
 void Window::place_screen(Frame const& frame, ScreenArea& screen)
 {
     auto const& box = frame.box();
-    screen.place(place_of(frame, 8), scale_.from_twips(box.Width, box.Height), scrolls_);
+    QRect room = place_of(frame, 8);
+    if (scrolls_) room.setTop(std::max(room.top(), scale_.from_base(strip_height)));
+    screen.place(room, scale_.from_twips(box.Width, box.Height), scrolls_);
     screen.setVisible(frame.visible());
 }
 

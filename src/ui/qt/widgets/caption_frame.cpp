@@ -79,22 +79,22 @@ void CaptionFrame::paintEvent(QPaintEvent* /*event*/)
 {
     Colours const& of = colours();
     Scale const scale = scale_of(this);
-    QColor const side = Index_ ? of.side.at(static_cast<std::size_t>(*Index_)) : of.text;
+    QColor const own = Index_ ? of.side.at(static_cast<std::size_t>(*Index_)) : of.text;
     QPainter painter{this};
     QRect const head{0, 0, width(), scale.from_base(caption_height)};
-    painter.fillRect(0, head.height(), width(), scale.line(), Index_ ? side : of.soft);
+    painter.fillRect(0, head.height(), width(), scale.line(), Index_ ? in_state(isEnabled(), own) : of.soft);
     if (Index_) {
         double const size = mark_size * scale.factor();
-        draw_side_mark(painter, *Index_, {0, (head.height() - size) / 2, size, size}, side);
+        draw_side_mark(painter, *Index_, {0, (head.height() - size) / 2, size, size}, in_state(isEnabled(), own));
     }
     auto const write = [&](int left, int room, Qt::Alignment alignment, QColor const& colour, QFont const& font,
                            QString const& text) {
-        painter.setPen(colour);
+        painter.setPen(in_state(isEnabled(), colour));
         painter.setFont(font);
         painter.drawText(QRect{left, 0, room, head.height()}, static_cast<int>(alignment | Qt::AlignVCenter), text);
     };
     QFont const plain = in_type(window()->font(), type::plain);
-    write(caption_left(), width(), Qt::AlignLeft, side, caption_font(), without_access_keys(title()));
+    write(caption_left(), width(), Qt::AlignLeft, own, caption_font(), without_access_keys(title()));
     if (!note_.isEmpty()) {
         write(note_left(), note_room(), Qt::AlignLeft, of.dim, plain,
               QFontMetrics{plain}.elidedText(note_, Qt::ElideRight, note_room()));

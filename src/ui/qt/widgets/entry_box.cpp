@@ -40,6 +40,12 @@ void EntryBox::set_type(Type type)
     fit();
 }
 
+void EntryBox::set_description(QString const& description)
+{
+    description_ = description;
+    describe();
+}
+
 void EntryBox::set_reading(std::function<QString(QString const&)> reading)
 {
     reading_ = std::move(reading);
@@ -92,9 +98,15 @@ void EntryBox::mark_reading()
     if (now == counts_as_) return;
     counts_as_ = now;
     setToolTip(now);
-    QWidget* const heard = focusProxy() != nullptr ? focusProxy() : this; // which has the focus
-    heard->setAccessibleDescription(now);
+    describe();
     update();
+}
+
+void EntryBox::describe()
+{
+    QWidget* const heard = focusProxy() != nullptr ? focusProxy() : this; // which has the focus
+    bool const both = !description_.isEmpty() && !counts_as_.isEmpty();
+    heard->setAccessibleDescription(description_ + (both ? ". " : "") + counts_as_);
 }
 
 void EntryBox::paintEvent(QPaintEvent* event)

@@ -21,6 +21,9 @@ public:
     /// What the text is written in. A number that is too wide for the box is written regular and smaller.
     void set_type(Type type);
 
+    /// What a screen reader says of a number beside its name.
+    void set_description(QString const& description);
+
     /// reading: the number that a text counts as, in digits. A text that is not that number is marked.
     void set_reading(std::function<QString(QString const&)> reading);
 
@@ -38,10 +41,12 @@ private:
     void fit();
     void fit_number();
     void mark_reading();
+    void describe();
 
     Holds holds_;
     Type type_ = type::plain;
     std::function<QString(QString const&)> reading_;
+    QString description_;
     QString counts_as_; // empty when the text is what it counts as
 };
 

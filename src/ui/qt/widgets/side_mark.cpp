@@ -19,7 +19,7 @@ void SideMark::paintEvent(QPaintEvent* /*event*/)
     double const size = mark_size * scale_of(this).factor();
     QPainter painter{this};
     draw_side_mark(painter, Index_, {0, (height() - size) / 2, size, size},
-                   colours().side.at(static_cast<std::size_t>(Index_)));
+                   in_state(isEnabled(), colours().side.at(static_cast<std::size_t>(Index_))));
 }
 
 } // namespace warhost
