@@ -70,7 +70,7 @@ TEST(ArmyFormat, carries_everything_through_and_ignores_what_follows_the_record)
     EXPECT_EQ(std::pair(army.Level, army.OtherLevel), std::pair(1.0F, 2.5F));
 }
 
-TEST(ArmyFormat, says_where_a_file_ended_wherever_it_was_cut)
+TEST(ArmyFormat, reports_where_a_file_ended_wherever_it_was_cut)
 {
     std::string const file = full_file();
     for (std::size_t length = 0; length < file.size(); ++length) {
@@ -83,7 +83,7 @@ TEST(ArmyFormat, says_where_a_file_ended_wherever_it_was_cut)
     EXPECT_TRUE(contains(caught(decode_army, file.substr(0, file.size() - 1)).text, "2 bytes of the reserved texts"));
 }
 
-TEST(ArmyFormat, believes_no_count_that_the_file_cannot_hold)
+TEST(ArmyFormat, rejects_counts_that_the_file_cannot_hold)
 {
     for (auto const& list : {"\1\0\xFF\xFF\xFF\x7F\0\0\0\0"s, "\1\0\xFF\xFF\xFF\xFF\0\0\0\0"s, "\xFF\xFF"s,
                              "\2\0\0\0\1\0\0\0\0\0\0\0\1\0\0\0\0\0"s,                      // 2^16 by 2^16
@@ -93,7 +93,7 @@ TEST(ArmyFormat, believes_no_count_that_the_file_cannot_hold)
                       number_of(Fault::file_too_short));
 }
 
-TEST(ArmyFormat, refuses_texts_that_no_file_can_hold)
+TEST(ArmyFormat, rejects_texts_that_no_file_can_hold)
 {
     Army army;
     army.Name = many('x', 65535);

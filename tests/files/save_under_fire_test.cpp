@@ -217,7 +217,7 @@ TEST(SaveUnderFire, two_programs_that_save_the_same_file_do_not_disturb_each_oth
     EXPECT_EQ(folder.names(), std::set<std::string>{"x.Army"});
 }
 
-TEST(SaveUnderFire, replaces_the_file_that_was_judged_when_a_link_changes_meanwhile)
+TEST(SaveUnderFire, replaces_the_file_that_was_checked_when_a_link_changes_meanwhile)
 {
     TemporaryFolder const folder;
     auto const link = folder.path("link");
@@ -228,7 +228,7 @@ TEST(SaveUnderFire, replaces_the_file_that_was_judged_when_a_link_changes_meanwh
     EXPECT_EQ(folder.read("one") + " " + folder.read("two"), "old new");
 }
 
-TEST(SaveUnderFire, takes_rights_away_when_the_access_list_cannot_be_read)
+TEST(SaveUnderFire, removes_permissions_when_the_access_list_cannot_be_read)
 {
     TemporaryFolder const folder;
     auto const file = folder.path("x.Army");
@@ -245,7 +245,7 @@ TEST(SaveUnderFire, takes_rights_away_when_the_access_list_cannot_be_read)
     }
 }
 
-TEST(LoadUnderFire, is_whole_or_refused)
+TEST(LoadUnderFire, is_complete_or_rejected)
 {
     TemporaryFolder const folder;
     std::string const army(200000, 'a');
@@ -262,7 +262,7 @@ TEST(LoadUnderFire, is_whole_or_refused)
     }
 }
 
-TEST(LoadUnderFire, never_waits_for_what_a_special_file_will_say)
+TEST(LoadUnderFire, never_waits_for_a_special_file)
 {
     TemporaryFolder const folder;
     folder.write("x.Army", "army");

@@ -29,7 +29,7 @@ struct WholeFile : testing::Test, TemporaryFolder {
     }
 };
 
-TEST_F(WholeFile, says_why_it_cannot_be_used_and_leaves_everything_as_it_was)
+TEST_F(WholeFile, reports_why_it_cannot_be_used_and_leaves_everything_as_it_was)
 {
     write("file", "whole");
     fs::create_directory(path("folder"));
@@ -266,7 +266,7 @@ TEST_F(SharedFile, is_not_replaced_through_a_link_that_another_user_placed)
     }
 }
 
-TEST_F(SharedFile, keeps_its_owner_and_its_rights_where_they_can_be_given)
+TEST_F(SharedFile, keeps_its_owner_and_permissions_where_possible)
 {
     // clang-format off
     struct { uid_t saver, owner; gid_t group; unsigned mode; char const* saved; } const cases[] = {

@@ -58,7 +58,7 @@ TEST_F(ArmyFiles, are_asked_for_on_the_army_tabs)
     EXPECT_EQ(folder.names(), std::set<std::string>{"modif.txt"});
 }
 
-TEST_F(ArmyFiles, are_judged_by_the_screen_and_carried_where_it_shows_nothing)
+TEST_F(ArmyFiles, are_limited_by_the_screen_and_kept_where_it_shows_nothing)
 {
     Army army = elves();
     // clang-format off
@@ -152,7 +152,7 @@ TEST_F(ArmyFiles, belong_to_the_side_on_which_the_command_began)
     }
 }
 
-TEST_F(ArmyFiles, that_are_cut_or_damaged_anywhere_change_nothing_or_are_carried_as_they_are)
+TEST_F(ArmyFiles, that_are_cut_or_damaged_anywhere_change_nothing_or_load_completely)
 {
     Army army = elves();
     army.Opt[3] = -1;

@@ -46,7 +46,7 @@ struct Combat : Program {
 
 struct CombatScreen : testing::Test, Combat {};
 
-TEST(Battle, is_told_by_its_dice)
+TEST(Battle, follows_from_its_dice)
 {
     // clang-format off
     struct { char const* story; int a, b; std::deque<double> dice; char const* expected; } const stories[] = {
@@ -81,7 +81,7 @@ TEST_F(CombatScreen, carries_a_natural_roll_into_the_next_one_when_the_first_die
     EXPECT_EQ(screen(), "Side B by 4 (5:9): 15%, bonus 0 | 12: 10 to 30, 20% is 3.0 | A 15 4, B 2 0 [+5]");
 }
 
-TEST_F(CombatScreen, recomputes_what_hangs_on_an_edited_field_and_nothing_else)
+TEST_F(CombatScreen, recomputes_what_depends_on_an_edited_field_and_nothing_else)
 {
     EXPECT_EQ(screen(), " Side A  by 0 (0:0): 0%, bonus 0 | 0: 0 to 0, 0% is 0 | A 0 0, B 0 0");
     roll(3, 1, {d20(14), d20(8), d20(7), share(35, 10, 60)});

@@ -155,7 +155,7 @@ TEST(OutOfMemory, leaves_records_and_screen_in_agreement)
     }
 }
 
-TEST(OutOfMemory, while_the_list_is_built_leaves_out_what_it_must)
+TEST(OutOfMemory, while_the_list_is_built_omits_only_what_it_must)
 {
     TemporaryFolder const folder;
     folder.write("modif.txt", list);

@@ -99,7 +99,7 @@ TEST(SimulateCommand, repeats_its_battles_for_the_same_seed)
     EXPECT_EQ(fighter.random.next(), 1431769798 * 0x1p-32);
 }
 
-TEST(SimulateCommand, says_the_exact_odds_and_how_far_the_sample_may_be_off)
+TEST(SimulateCommand, shows_the_exact_odds_and_the_sampling_error)
 {
     // clang-format off
     struct { std::string battles, modifier_a, modifier_b, odds, sample; } const rows[] = {

@@ -28,7 +28,7 @@ TEST_F(WindowRules, keeps_one_margin_around_the_tabs_and_two_around_the_frames)
     }
 }
 
-TEST_F(WindowRules, opens_what_a_menu_item_says_and_asks_before_it_closes)
+TEST_F(WindowRules, opens_what_a_menu_item_names_and_asks_before_it_closes)
 {
     for (int Index : {1, 3, 5, 7, 9}) form.mnuWeb_Click(Index);
     form.mnuHelpContents_Click();
@@ -45,7 +45,7 @@ TEST_F(WindowRules, opens_what_a_menu_item_says_and_asks_before_it_closes)
     EXPECT_EQ(desktop.boxes, std::vector(2, box));
 }
 
-TEST_F(WindowRules, says_what_failed_once)
+TEST_F(WindowRules, reports_a_failure_once)
 {
     std::string const rest =
         "\r\nPress Ignore to continue.\r\nIf you press Abort, the program will end and you will lose "
@@ -62,7 +62,7 @@ TEST_F(WindowRules, says_what_failed_once)
     EXPECT_EQ(desktop.boxes, (std::vector{first + rest, "Error!: Error -2147024894: ''.\r\n" + rest}));
 }
 
-TEST(MissingList, is_told_once_and_the_program_works_without)
+TEST(MissingList, is_reported_once_and_the_program_works_without_it)
 {
     Program program{std::nullopt};
     std::string const box =

@@ -136,7 +136,7 @@ TEST(HelpViewer, finds_a_text_goes_on_at_the_top_and_closes_the_bar_with_escape)
     EXPECT_FALSE(text.isVisible());
 }
 
-TEST(AboutBox, is_one_tells_version_and_licence_and_closes_by_enter_and_escape)
+TEST(AboutBox, opens_once_shows_version_and_licence_and_closes_on_enter_and_escape)
 {
     for (auto const key : {Qt::Key_Return, Qt::Key_Escape}) {
         AboutBox::show_box(data_folder);

@@ -248,7 +248,7 @@ TEST(Colours, are_computed_from_the_palette_and_stand_out)
     }
 }
 
-TEST(Colours, are_the_platforms_own_unless_it_says_no_more_than_dark)
+TEST(Colours, are_the_platforms_own_unless_it_only_asks_for_dark)
 {
     QPalette const plain_dark{Qt::darkGray, Qt::black};
     EXPECT_EQ(palette_for(plain_dark, plain_dark), dark_palette());
@@ -405,7 +405,7 @@ QStringList tab_walk(Screen& screen)
     return names;
 }
 
-TEST(WindowLook, the_tab_key_goes_in_reading_order_through_everything)
+TEST(WindowLook, the_tab_key_visits_everything_in_reading_order)
 {
     Screen screen;
     // The options of one frame are one stop; the arrow keys go on from there.

@@ -382,7 +382,7 @@ TEST(Window, closing_asks_first)
     EXPECT_EQ(screen.desktop.titles, (std::vector<std::string>{"Quit Warhost?", "Quit Warhost?"}));
 }
 
-TEST(Window, the_end_of_the_session_asks_once_and_takes_no_for_an_answer)
+TEST(Window, the_end_of_the_session_asks_once_and_respects_a_refusal)
 {
     Screen screen;
     EXPECT_TRUE(screen.window.session_may_end(false)) << "nothing may be asked";
