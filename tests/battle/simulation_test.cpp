@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <utility>
 
 namespace warhost {
@@ -14,6 +15,12 @@ TEST(Tally, sums_what_each_side_suffered)
     EXPECT_DOUBLE_EQ(tally.mean_casualties(0), (3.0 * 16.65F + 2 * 10) / 5);
     EXPECT_DOUBLE_EQ(tally.mean_casualties(1), (3 * 45 + 0 + 11) / 5.0);
     EXPECT_EQ(std::pair(tally.histogram(0)[17], tally.histogram(1)[11]), std::pair(std::int64_t{3}, std::int64_t{1}));
+
+    Tally thirty; // 10% and 20%, as often
+    for (int const margin : {1, 5}) {
+        for (int battle = 0; battle < 15; ++battle) thirty.count(side_a_won, margin, 0);
+    }
+    EXPECT_NEAR(thirty.casualty_margin(1), 1.96 * 5 / std::sqrt(29), 1e-4);
 }
 
 } // namespace warhost

@@ -146,6 +146,9 @@ TEST(Apply, takes_the_losses_off_its_own_side_whichever_tab_is_selected)
         EXPECT_EQ(form.ArmyA.TotalNo, 128);
         EXPECT_TRUE(same(form.CurArmy, form.ArmyB));
         EXPECT_EQ(texts(form.lblRatio, form.lblRatioBonus), "2.7:1/+3");
+        form.txtLoses(0).set_text("60");
+        form.cmdApplyCasualties(0).press();
+        EXPECT_EQ(texts(form.txtTotalMod(0), form.lblRatio, form.lblRatioBonus), "0/1.4:1/+0"); // 68 to 47
         form.TabStrip.choose(2);
         EXPECT_EQ(texts(form.txtUnitNum(0), form.txtTotalNo), "40/47");
         EXPECT_TRUE(combat.desktop.boxes.empty());
