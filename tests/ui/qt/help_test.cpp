@@ -1,10 +1,10 @@
 // The manual as it ships, its viewer, and the About box. Needs a QApplication.
+#include "files/modifier_list.h"
 #include "ui/qt/dialogs/about_box.h"
 #include "ui/qt/help/help_viewer.h"
 
-#include "files/modifier_list.h"
-
 #include <QApplication>
+#include <QDesktopServices>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
@@ -115,6 +115,13 @@ TEST(HelpViewer, keeps_its_place_and_needs_no_scrolling_to_the_side_at_any_size)
     for (int step = 0; step < 5; ++step) QTest::keyClick(&viewer, Qt::Key_Plus, Qt::ControlModifier);
     QCoreApplication::processEvents();
     EXPECT_EQ(page.verticalScrollBar()->value(), 0);
+
+    int const enlarged = page.fontInfo().pixelSize();
+    QTest::keyClick(&viewer, Qt::Key_0, Qt::ControlModifier);
+    int const normal = page.fontInfo().pixelSize();
+    QTest::keyClick(&viewer, Qt::Key_Minus, Qt::ControlModifier);
+    EXPECT_GT(enlarged, normal);
+    EXPECT_LT(page.fontInfo().pixelSize(), normal);
 }
 
 TEST(HelpViewer, finds_a_text_goes_on_at_the_top_and_closes_the_bar_with_escape)
@@ -132,8 +139,75 @@ TEST(HelpViewer, finds_a_text_goes_on_at_the_top_and_closes_the_bar_with_escape)
     QTest::keyClick(&text, Qt::Key_Return); // the only one of the page
     EXPECT_EQ(page.textCursor().selectionStart(), place);
     EXPECT_FALSE(viewer.findChild<QLabel*>("findMessage")->text().isEmpty());
+    text.selectAll();
+    QTest::keyClicks(&text, "Shift+");
+    int const first = page.textCursor().selectionStart();
+    QTest::keyClick(&viewer, Qt::Key_F3);
+    EXPECT_GT(page.textCursor().selectionStart(), first);
+    QTest::keyClick(&viewer, Qt::Key_F3, Qt::ShiftModifier);
+    EXPECT_EQ(page.textCursor().selectionStart(), first);
     QTest::keyClick(&text, Qt::Key_Escape);
     EXPECT_FALSE(text.isVisible());
+}
+
+TEST(HelpViewer, lists_the_hits_of_all_pages_and_opens_each_with_its_text_marked)
+{
+    HelpViewer viewer{manual};
+    viewer.open(0);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&viewer));
+    auto& page = *viewer.findChild<QTextBrowser*>("helpPage");
+    auto& field = *viewer.findChild<QLineEdit*>("helpSearch");
+    auto& hits = *viewer.findChild<QTreeWidget*>("helpHits");
+    QTest::keyClick(&viewer, Qt::Key_F, Qt::ControlModifier | Qt::ShiftModifier);
+    QTest::keyClicks(QApplication::focusWidget(), "WINDOWS");
+    ASSERT_TRUE(hits.isVisible());
+    ASSERT_GT(hits.topLevelItemCount(), 2);
+    for (int each = 0; each < hits.topLevelItemCount(); ++each) {
+        auto const& of_page = *hits.topLevelItem(each);
+        int last = -1;
+        for (int hit = 0; hit < of_page.childCount(); ++hit) {
+            EXPECT_TRUE(of_page.child(hit)->text(0).contains("windows", Qt::CaseInsensitive));
+            each + hit == 0 ? QTest::keyClick(&field, Qt::Key_Return) : QTest::keyClick(&viewer, Qt::Key_F3);
+            EXPECT_EQ(hits.currentItem(), of_page.child(hit));
+            EXPECT_TRUE(of_page.text(0).startsWith(page.documentTitle())) << of_page.text(0).toStdString();
+            EXPECT_EQ(page.textCursor().selectedText().toLower(), "windows");
+            EXPECT_TRUE(page.viewport()->rect().contains(page.cursorRect()));
+            EXPECT_GT(page.textCursor().position(), std::exchange(last, page.textCursor().position()));
+        }
+        EXPECT_TRUE(of_page.text(0).endsWith(QString{" (%1)"}.arg(of_page.childCount())));
+    }
+    QTest::keyClick(&viewer, Qt::Key_F3);
+    QTest::keyClick(&viewer, Qt::Key_F3, Qt::ShiftModifier); // from the first to the last
+    auto const* const last_page = hits.topLevelItem(hits.topLevelItemCount() - 1);
+    EXPECT_EQ(hits.currentItem(), last_page->child(last_page->childCount() - 1));
+    emit hits.itemActivated(hits.topLevelItem(0), 0);
+    EXPECT_TRUE(hits.topLevelItem(0)->text(0).startsWith(page.documentTitle()));
+
+    QTest::keyClicks(&field, " of nobody");
+    EXPECT_TRUE(viewer.findChild<QLabel*>("helpNoHits")->isVisible());
+    QTest::keyClick(&field, Qt::Key_Escape);
+    EXPECT_TRUE(viewer.findChild<QTreeWidget*>("helpTree")->isVisible());
+    EXPECT_TRUE(page.hasFocus());
+}
+
+/// A browser, as far as the desktop is concerned.
+struct Browser : QTextBrowser {
+    QVariant loadResource(int /*type*/, QUrl const& /*name*/) override { return QString{"shown"}; }
+};
+
+TEST(HelpViewer, opens_links_out_of_the_manual_in_the_browser)
+{
+    HelpViewer viewer{manual};
+    viewer.open(0);
+    Browser browser;
+    QDesktopServices::setUrlHandler("https", &browser, "setSource");
+    auto& page = *viewer.findChild<QTextBrowser*>("helpPage");
+    page.setHtml("<a href=\"https://example.org/a\">out</a>");
+    QTest::keyClick(&page, Qt::Key_Tab);
+    QTest::keyClick(&page, Qt::Key_Return);
+    QDesktopServices::unsetUrlHandler("https");
+    EXPECT_EQ(browser.source(), QUrl{"https://example.org/a"});
+    EXPECT_EQ(page.toPlainText(), "out");
 }
 
 TEST(AboutBox, opens_once_shows_version_and_licence_and_closes_on_enter_and_escape)

@@ -86,11 +86,29 @@ int HelpPage::line_width() const
     return std::max(1, std::min(scale.from_base(measure) * percent_ / 100, room));
 }
 
-void HelpPage::show_entry(HelpEntry const& entry)
+void HelpPage::show_page(QString const& page, QString const& anchor)
 {
-    QUrl address = QUrl::fromLocalFile(QDir{folder_}.absoluteFilePath(entry.page));
-    if (!entry.anchor.isEmpty()) address.setFragment(entry.anchor);
+    QUrl address = QUrl::fromLocalFile(QDir{folder_}.absoluteFilePath(page));
+    if (!anchor.isEmpty()) address.setFragment(anchor);
     setSource(address, QTextDocument::HtmlResource);
+}
+
+/// Leaves a third of the view above the text, so that what it is about can be read.
+void HelpPage::mark(int begin, int end)
+{
+    select(begin, end);
+    verticalScrollBar()->setValue(verticalScrollBar()->value() + cursorRect().top() - viewport()->height() / 3);
+}
+
+int HelpPage::last_position() const { return document()->characterCount() - 1; }
+
+/// The page may have become shorter.
+void HelpPage::select(int anchor, int position)
+{
+    QTextCursor cursor{document()};
+    cursor.setPosition(std::min(anchor, last_position()));
+    cursor.setPosition(std::min(position, last_position()), QTextCursor::KeepAnchor);
+    setTextCursor(cursor);
 }
 
 void HelpPage::show_missing_manual()
@@ -198,12 +216,9 @@ void HelpPage::show_anew()
     setLineWrapColumnOrWidth(page_width());
     if (source().isEmpty()) return;
     reload();
+    select(anchor, position);
     QTextCursor again{document()};
-    auto const in_page = [&](int place) { return std::min(place, document()->characterCount() - 1); };
-    again.setPosition(in_page(anchor));
-    again.setPosition(in_page(position), QTextCursor::KeepAnchor);
-    setTextCursor(again);
-    again.setPosition(in_page(first));
+    again.setPosition(std::min(first, last_position()));
     verticalScrollBar()->setValue(verticalScrollBar()->value() + cursorRect(again).top() - above);
 }
 

@@ -6,15 +6,16 @@
 
 namespace warhost {
 
-struct HelpEntry;
-
 class HelpPage : public QTextBrowser {
     Q_OBJECT
 
 public:
     explicit HelpPage(QString folder, QWidget* parent = nullptr);
 
-    void show_entry(HelpEntry const& entry);
+    /// page: its file's name. anchor: empty for the top.
+    void show_page(QString const& page, QString const& anchor);
+    /// Selects the text of the page between two positions and scrolls to it.
+    void mark(int begin, int end);
     void show_missing_manual();
     void show_unknown_topic(int topic);
 
@@ -33,6 +34,8 @@ private:
     QImage picture(QByteArray const& bytes) const;
     int line_width() const;
     int page_width() const;
+    int last_position() const;
+    void select(int anchor, int position);
     void show_anew();
 
     QString folder_;

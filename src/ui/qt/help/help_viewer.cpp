@@ -1,5 +1,6 @@
 #include "ui/qt/help/help_viewer.h"
 
+#include "ui/qt/help/contents_pane.h"
 #include "ui/qt/help/find_bar.h"
 #include "ui/qt/help/help_page.h"
 #include "ui/qt/look/page_style.h"
@@ -12,7 +13,6 @@
 #include <QStyle>
 #include <QToolBar>
 #include <QToolButton>
-#include <QTreeWidget>
 #include <QUrl>
 #include <QVBoxLayout>
 
@@ -26,9 +26,7 @@ namespace {
 
 // At the base font; a larger font makes the window larger, as far as the screen goes.
 constexpr QSize base_size{960, 680};
-constexpr int base_tree_width = 260;
-constexpr int indentation = 14;
-constexpr int row_padding = 11; // above and below a title together
+constexpr int base_contents_width = 260;
 
 void add_to_bar(QToolBar& bar, QAction* action, char const* spoken, std::optional<QStyle::StandardPixmap> icon = {})
 {
@@ -45,7 +43,7 @@ void add_to_bar(QToolBar& bar, QAction* action, char const* spoken, std::optiona
 HelpViewer::HelpViewer(QString const& folder, QWidget* parent)
     : QMainWindow(parent),
       folder_(folder),
-      tree_(new QTreeWidget),
+      contents_(new ContentsPane{folder, entries_}),
       page_(new HelpPage{folder}),
       find_bar_(new FindBar{*page_})
 {
@@ -55,25 +53,18 @@ HelpViewer::HelpViewer(QString const& folder, QWidget* parent)
     arrange();
     make_actions();
 
-    auto const show_item = [this](QTreeWidgetItem* item) {
-        auto const found = std::find(items_.begin(), items_.end(), item);
-        if (found != items_.end()) page_->show_entry(entries_[static_cast<std::size_t>(found - items_.begin())]);
-    };
-    connect(tree_, &QTreeWidget::itemClicked, this, show_item);
-    connect(tree_, &QTreeWidget::itemActivated, this, show_item);
+    connect(contents_, &ContentsPane::entry_chosen, page_,
+            [this](HelpEntry const& entry) { page_->show_page(entry.page, entry.anchor); });
+    connect(contents_, &ContentsPane::hit_chosen, this, [this](HelpEntry const& page, int begin, int end) {
+        page_->show_page(page.page, {});
+        page_->mark(begin, end);
+    });
+    connect(contents_, &ContentsPane::search_closed, page_, [this] { page_->setFocus(Qt::OtherFocusReason); });
     connect(page_, &QTextBrowser::sourceChanged, this, &HelpViewer::follow_page);
 }
 
 void HelpViewer::arrange()
 {
-    tree_->setObjectName("helpTree");
-    tree_->setAccessibleName("Contents of the manual");
-    tree_->setHeaderHidden(true);
-    tree_->setUniformRowHeights(true);
-    tree_->setFrameShadow(QFrame::Plain);
-    tree_->viewport()->setBackgroundRole(QPalette::Window);
-    tree_->setIndentation(scale_of(this).from_base(indentation));
-
     auto* const side = new QWidget;
     auto* const column = new QVBoxLayout{side};
     column->setContentsMargins(0, 0, 0, 0);
@@ -84,7 +75,7 @@ void HelpViewer::arrange()
     auto* const splitter = new QSplitter;
     splitter->setObjectName("helpSplitter");
     splitter->setAutoFillBackground(true);
-    splitter->addWidget(tree_);
+    splitter->addWidget(contents_);
     splitter->addWidget(side);
     splitter->setStretchFactor(1, 1);
     splitter->setChildrenCollapsible(false);
@@ -94,17 +85,27 @@ void HelpViewer::arrange()
     double const scale = growth(font());
     QSize const room = screen()->availableSize();
     resize((QSizeF{base_size} * scale).toSize().boundedTo(room));
-    int const tree_width = static_cast<int>(base_tree_width * scale);
-    splitter->setSizes({tree_width, std::max(1, width() - tree_width)});
+    int const contents_width = static_cast<int>(base_contents_width * scale);
+    splitter->setSizes({contents_width, std::max(1, width() - contents_width)});
 }
 
 void HelpViewer::open(int topic)
 {
-    if (entries_.empty()) {
-        entries_ = read_help_contents(folder_);
-        fill_tree();
-    }
+    read_contents();
     show_topic(topic);
+    come_forward();
+}
+
+void HelpViewer::read_contents()
+{
+    if (!entries_.empty()) return;
+    entries_ = read_help_contents(folder_);
+    contents_->fill();
+}
+
+void HelpViewer::come_forward()
+{
+    contents_->close_search();
     setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
     raise();
@@ -122,7 +123,7 @@ void HelpViewer::show_topic(int topic)
                                   : std::find_if(entries_.begin(), entries_.end(),
                                                  [&](HelpEntry const& each) { return each.topic == topic; });
     if (found == entries_.end()) page_->show_unknown_topic(topic);
-    else page_->show_entry(*found);
+    else page_->show_page(found->page, found->anchor);
 }
 
 void HelpViewer::make_actions()
@@ -177,11 +178,15 @@ void HelpViewer::make_find_actions(QToolBar& bar)
 {
     QMenu& menu = *menuBar()->addMenu("F&ind");
     auto* const find =
-        add_action(menu, "helpFind", "&Find...", {QKeySequence{"Ctrl+F"}}, [this] { find_bar_->open(); });
+        add_action(menu, "helpFind", "&Find in Page...", {QKeySequence{"Ctrl+F"}}, [this] { find_bar_->open(); });
+    add_action(menu, "helpSearchAll", "&Search Manual...", {QKeySequence{"Ctrl+Shift+F"}},
+               [this] { contents_->open_search(); });
+    menu.addSeparator();
+    auto const searches_all = [this] { return contents_->has_hits() && !find_bar_->isVisible(); };
     add_action(menu, "helpFindNext", "Find &Next", {QKeySequence{"F3"}, QKeySequence{"Ctrl+G"}},
-               [this] { find_bar_->find_next(); });
+               [=, this] { searches_all() ? contents_->choose_hit(1) : find_bar_->find_next(); });
     add_action(menu, "helpFindPrevious", "Find &Previous", {QKeySequence{"Shift+F3"}, QKeySequence{"Ctrl+Shift+G"}},
-               [this] { find_bar_->find_previous(); });
+               [=, this] { searches_all() ? contents_->choose_hit(-1) : find_bar_->find_previous(); });
     add_to_bar(bar, find, "Find in the page", QStyle::SP_FileDialogContentsView);
 }
 
@@ -197,48 +202,11 @@ void HelpViewer::make_view_actions(QToolBar& bar)
     add_to_bar(bar, larger, "Larger text");
 }
 
-void HelpViewer::fill_tree()
-{
-    tree_->clear();
-    items_.clear();
-    std::vector<QTreeWidgetItem*> above; // the latest item of each depth
-    for (auto const& entry : entries_) {
-        auto const depth = std::min(static_cast<std::size_t>(std::max(0, entry.depth)), above.size());
-        above.resize(depth);
-        auto* const item = above.empty() ? new QTreeWidgetItem{tree_} : new QTreeWidgetItem{above.back()};
-        item->setText(0, entry.title);
-        item->setToolTip(0, entry.title);
-        item->setSizeHint(0, {0, tree_->fontMetrics().height() + row_padding});
-        above.push_back(item);
-        items_.push_back(item);
-    }
-}
-
-/// Selects the entry of the page that is shown: its section's, else the page's own.
 void HelpViewer::follow_page(QUrl const& address)
 {
     QString const title = page_->documentTitle();
     setWindowTitle(title.isEmpty() ? "Warhost Help" : title + " - Warhost Help");
-
-    auto const index_of = [&](QString const& anchor) {
-        auto const found = std::find_if(entries_.begin(), entries_.end(), [&](HelpEntry const& entry) {
-            return address.isLocalFile() && entry.page == address.fileName() && entry.anchor == anchor;
-        });
-        return static_cast<std::size_t>(found - entries_.begin());
-    };
-    auto index = index_of(address.fragment());
-    if (index == entries_.size()) index = index_of({});
-    if (index == entries_.size()) {
-        tree_->setCurrentItem(nullptr);
-        return;
-    }
-    auto* const item = items_[index];
-    auto* page_item = item;
-    while (page_item->parent() != nullptr) page_item = page_item->parent();
-    if (tree_->currentItem() == nullptr || !page_item->isExpanded()) tree_->collapseAll();
-    page_item->setExpanded(true);
-    tree_->setCurrentItem(item);
-    tree_->scrollToItem(item);
+    contents_->follow_page(address);
 }
 
 } // namespace warhost

@@ -12,11 +12,10 @@
 
 class QMenu;
 class QToolBar;
-class QTreeWidget;
-class QTreeWidgetItem;
 
 namespace warhost {
 
+class ContentsPane;
 class FindBar;
 class HelpPage;
 
@@ -33,7 +32,9 @@ public:
     void open(int topic);
 
 private:
+    void read_contents();
     void show_topic(int topic);
+    void come_forward();
     void arrange();
     void make_actions();
     void make_page_actions(QToolBar& bar);
@@ -41,13 +42,11 @@ private:
     void make_view_actions(QToolBar& bar);
     QAction* add_action(QMenu& menu, char const* name, char const* caption, QList<QKeySequence> const& keys,
                         std::function<void()> act);
-    void fill_tree();
     void follow_page(QUrl const& address);
 
     QString folder_;
     std::vector<HelpEntry> entries_;
-    std::vector<QTreeWidgetItem*> items_; // one per entry
-    QTreeWidget* tree_;
+    ContentsPane* contents_;
     HelpPage* page_;
     FindBar* find_bar_;
 };
