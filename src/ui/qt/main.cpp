@@ -4,6 +4,7 @@
 #include "ui/qt/dialogs/about_box.h"
 #include "ui/qt/dialogs/qt_desktop.h"
 #include "ui/qt/end_signals.h"
+#include "ui/qt/help/help_key.h"
 #include "ui/qt/help/help_viewer.h"
 #include "ui/qt/look/colour_scheme.h"
 #include "ui/qt/look/page_style.h"
@@ -41,10 +42,12 @@ int main(int argc, char* argv[])
     warhost::QtDesktop desktop;
     QString const data_folder = QCoreApplication::applicationDirPath();
     std::unique_ptr<warhost::HelpViewer> manual;
-    desktop.help = [&](int topic) {
+    auto const show_manual = [&](auto const& place) {
         if (!manual) manual = std::make_unique<warhost::HelpViewer>(data_folder + "/help");
-        manual->open(topic);
+        manual->open(place);
     };
+    desktop.help = show_manual;
+    warhost::HelpKey const help_key{show_manual, show_manual};
     desktop.about = [&] { warhost::AboutBox::show_box(data_folder); };
 
     warhost::Main form{desktop, random};

@@ -1,7 +1,11 @@
 // The manual as it ships, its viewer, and the About box. Needs a QApplication.
+#include "battle/odds.h"
 #include "files/modifier_list.h"
 #include "ui/qt/dialogs/about_box.h"
+#include "ui/qt/help/help_key.h"
 #include "ui/qt/help/help_viewer.h"
+#include "ui/qt/widgets/value_box.h"
+#include "window_fixture.h"
 
 #include <QApplication>
 #include <QDesktopServices>
@@ -13,6 +17,8 @@
 #include <QTest>
 #include <QTextBlock>
 #include <QTextBrowser>
+#include <QThread>
+#include <QTimer>
 #include <QTreeWidget>
 
 #include <gtest/gtest.h>
@@ -208,6 +214,64 @@ TEST(HelpViewer, opens_links_out_of_the_manual_in_the_browser)
     QDesktopServices::unsetUrlHandler("https");
     EXPECT_EQ(browser.source(), QUrl{"https://example.org/a"});
     EXPECT_EQ(page.toPlainText(), "out");
+}
+
+TEST(HelpKey, opens_the_topic_of_the_row_or_the_page_of_the_screen_or_the_dialog)
+{
+    Screen screen;
+    HelpViewer viewer{manual};
+    HelpKey const help_key{[&](int topic) { viewer.open(topic); }, [&](char const* address) { viewer.open(address); }};
+    auto const shown_from = [&](QWidget& at) {
+        viewer.open(13); // another page
+        QTest::keyClick(&at, Qt::Key_F1);
+        return viewer.findChild<QTextBrowser*>("helpPage")->source().toString().section('/', -1).toStdString();
+    };
+    auto& tabs = screen.named<QTabBar>("TabStrip");
+    EXPECT_EQ(shown_from(tabs), "army_screen.html");
+    EXPECT_EQ(shown_from(screen.named<QWidget>("opt(0)")), "army_screen.html");
+    EXPECT_EQ(shown_from(screen.named<QWidget>("FrameMisc")), "misc_modifiers.html");
+    auto& value = screen.named<ValueBox>("cmbMisc(1)");
+    EXPECT_EQ(shown_from(screen.named<QWidget>("chkMisc(1)")), "misc_modifiers.html#high_ground");
+    value.setFocus();
+    value.showPopup();
+    EXPECT_EQ(shown_from(*QApplication::activePopupWidget()), "misc_modifiers.html#high_ground");
+    screen.choose_tab(3);
+    EXPECT_EQ(shown_from(tabs), "combat_screen.html");
+    EXPECT_EQ(shown_from(viewer), "keyboard.html#manual");
+
+    auto const message = [&](char const* title) {
+        return [&, title] { screen.desktop.QtDesktop::message_box({"", title}); };
+    };
+    auto const file_dialog = [&](char const* title) {
+        return [&, title] { screen.desktop.QtDesktop::file_dialog({FileDialogKind::save, title, "", "", ""}); };
+    };
+    auto const wait = [&] { screen.desktop.wait_for([] { QThread::msleep(600); }); };
+    auto const ask = [&] { screen.desktop.QtDesktop::input_box({"", "Simulate N Battles", ""}); };
+    auto const report = [&] { screen.desktop.QtDesktop::show_report({"", "Warhost Simulation"}, Tally{}, Odds{0, 0}); };
+    std::pair<std::function<void()>, char const*> const dialogs[] = {
+        {message("Warhost"), "combat_screen.html"},
+        {message("Quit Warhost?"), "contents.html#menus"},
+        {message("Error!"), "army_files.html#errors"},
+        {message("File Not Found"), "troubleshooting.html#window"},
+        {file_dialog("Load Warhost Army File"), "army_files.html#loading"},
+        {file_dialog("Save Warhost Army File"), "army_files.html#saving"},
+        {wait, "army_files.html"},
+        {ask, "simulation.html"},
+        {report, "simulation.html#report"},
+    };
+    for (auto const& [open, address] : dialogs) {
+        QTimer::singleShot(0, [&, expected = address] {
+            auto& box = *QApplication::activeModalWidget();
+            auto* const name = box.findChild<QLineEdit*>("fileNameEdit"); // which would swallow the key
+            EXPECT_EQ(shown_from(name != nullptr ? *name : box), expected);
+            auto& tree = *viewer.findChild<QTreeWidget*>("helpTree");
+            auto const first = tree.visualItemRect(tree.topLevelItem(0)).center();
+            QTest::mouseClick(viewer.windowHandle(), Qt::LeftButton, {}, tree.viewport()->mapTo(&viewer, first));
+            EXPECT_EQ(shown_by(viewer).section('\n', 0, 0), "Welcome to Warhost") << "the manual stays usable";
+            box.close();
+        });
+        open();
+    }
 }
 
 TEST(AboutBox, opens_once_shows_version_and_licence_and_closes_on_enter_and_escape)

@@ -31,7 +31,6 @@ public:
     std::optional<std::string> path;
     std::vector<std::string> titles;   // of the messages shown
     std::function<void()> while_asked; // runs while a message is open
-    int topic = 0;
 
     Answer message_box(Message const& box) override
     {
@@ -46,7 +45,6 @@ public:
     std::string input_box(InputBox const& box) override { return box.default_text; }
     std::optional<std::string> file_dialog(FileDialog const&) override { return path; }
     std::string program_directory() override { return directory_; }
-    void show_help(int number) override { topic = number; }
 
 private:
     std::string directory_;

@@ -180,16 +180,13 @@ TEST(Window, option_buttons_follow_the_form)
     EXPECT_FALSE(disciplined.isChecked()) << "Side B has none selected";
 }
 
-TEST(Window, ticking_a_misc_row_counts_and_its_help_key_opens_its_topic)
+TEST(Window, ticking_a_misc_row_counts)
 {
     Screen screen;
     auto& box = screen.named<QCheckBox>("chkMisc(1)");
     QTest::keyClick(&box, Qt::Key_Space);
     EXPECT_EQ(screen.form.CurArmy.MiscCheck.at(1), 1);
     EXPECT_TRUE(box.font().bold());
-    box.setFocus();
-    QTest::keyClick(&box, Qt::Key_F1);
-    EXPECT_EQ(screen.desktop.topic, screen.form.chkMisc(1).help_topic);
 }
 
 TEST(Window, tabs_swap_the_armies_and_the_menus_and_their_keys_save_and_load_them)

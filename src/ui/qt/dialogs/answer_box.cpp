@@ -95,6 +95,7 @@ QPixmap pixmap_of(Icon icon, QWidget const& box)
 AnswerBox::AnswerBox(Message const& box, QWidget* parent) : QDialog(parent), answer_(answer_of_escape(box.buttons))
 {
     setWindowTitle(to_qt(box.title));
+    setWindowModality(Qt::WindowModal);
     QString const text = to_qt(box.text).replace("\r\n", "\n");
     setAccessibleDescription(text);
 

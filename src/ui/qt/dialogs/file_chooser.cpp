@@ -67,6 +67,7 @@ public:
         : QFileDialog(parent, to_qt(request.title), folder),
           chooser_(chooser)
     {
+        setWindowModality(Qt::WindowModal);
         bool const saves = request.kind == FileDialogKind::save;
         setAcceptMode(saves ? AcceptSave : AcceptOpen);
         setFileMode(AnyFile);

@@ -32,7 +32,7 @@ ProgressDialog::ProgressDialog(QWidget* window, QString const& title, QString co
         setEnabled(true); // a child window follows the one below it
     }
     setWindowTitle(title);
-    setWindowModality(Qt::ApplicationModal);
+    setWindowModality(Qt::WindowModal);
     Scale const scale = scale_of(this);
     setMinimumWidth(scale.from_base(dialog_width));
     bar_.setFixedHeight(scale.from_base(bar_height));

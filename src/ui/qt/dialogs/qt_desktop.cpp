@@ -55,6 +55,7 @@ void QtDesktop::wait_for(std::function<void()> const& work)
     }
     if (done.wait_for(500ms) != std::future_status::ready) {
         ProgressDialog waiting{window_, program_title, "Waiting"};
+        waiting.setObjectName("waitingDialog");
         while (done.wait_for(50ms) != std::future_status::ready) {
             waiting.show_share(-1, "Waiting for the disk or the network");
         }
@@ -65,6 +66,7 @@ void QtDesktop::wait_for(std::function<void()> const& work)
 std::string QtDesktop::input_box(InputBox const& box)
 {
     QInputDialog input{window_};
+    input.setWindowModality(Qt::WindowModal);
     input.setWindowTitle(to_qt(box.title));
     input.setLabelText(to_qt(box.prompt));
     input.setTextValue(to_qt(box.default_text));

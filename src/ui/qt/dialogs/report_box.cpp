@@ -28,6 +28,7 @@ ReportBox::ReportBox(Message const& report, Tally const& tally, Odds const& odds
     constexpr double height = 6900;
     setFont(fitting_font(parent != nullptr ? parent->font() : font(), width, height, screen()->availableSize()));
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+    setWindowModality(Qt::WindowModal);
 
     auto const text = [&](std::string const& words, char const* spoken, Type type) {
         QLabel* const label = selectable_text(to_qt(words).remove('\r'), spoken);

@@ -96,6 +96,14 @@ void HelpViewer::open(int topic)
     come_forward();
 }
 
+void HelpViewer::open(QString const& address)
+{
+    read_contents();
+    if (entries_.empty()) page_->show_missing_manual();
+    else page_->show_page(address.section('#', 0, 0), address.section('#', 1));
+    come_forward();
+}
+
 void HelpViewer::read_contents()
 {
     if (!entries_.empty()) return;

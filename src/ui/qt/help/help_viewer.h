@@ -30,6 +30,8 @@ public:
 
     /// Shows the topic, or the contents page for 0, in front of the other windows.
     void open(int topic);
+    /// The same for a page, with an optional "#" and anchor.
+    void open(QString const& address);
 
 private:
     void read_contents();

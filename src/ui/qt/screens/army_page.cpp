@@ -57,8 +57,7 @@ static_assert(end_of(pair_top, std::max(options_of(4), options_of(7))) == column
 } // namespace
 
 ArmyPage::ArmyPage(ArmyControls& controls, Reading const& level_reading, Scale const& scale, QSize content,
-                   std::function<bool()> const& add_misc_row, std::function<void(int)> const& show_help,
-                   QWidget* parent)
+                   std::function<bool()> const& add_misc_row, QWidget* parent)
     : ScreenArea(parent),
       controls_(controls),
       make_(surface(), scale)
@@ -80,7 +79,7 @@ ArmyPage::ArmyPage(ArmyControls& controls, Reading const& level_reading, Scale c
     screen->addLayout(middle_column(), 1, 2);
     make_.set_tab_order();
 
-    misc_panel_ = new MiscPanel{controls, scale, add_misc_row, show_help, &surface()};
+    misc_panel_ = new MiscPanel{controls, scale, add_misc_row, &surface()};
 }
 
 /// The total ends where the values of the misc panel do.

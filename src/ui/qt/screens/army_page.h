@@ -23,7 +23,7 @@ public:
     /// level_reading: what a text counts as for the troop level, in digits. content: the part of the screen that is
     /// laid out, in pixels. For the other two see MiscPanel.
     ArmyPage(ArmyControls& controls, Reading const& level_reading, Scale const& scale, QSize content,
-             std::function<bool()> const& add_misc_row, std::function<void(int)> const& show_help, QWidget* parent);
+             std::function<bool()> const& add_misc_row, QWidget* parent);
 
     MiscPanel& misc_panel() const { return *misc_panel_; }
 

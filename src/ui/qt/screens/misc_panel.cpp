@@ -1,5 +1,6 @@
 #include "ui/qt/screens/misc_panel.h"
 
+#include "ui/qt/help/help_key.h"
 #include "ui/qt/look/colours.h"
 #include "ui/qt/look/ink.h"
 #include "ui/qt/widgets/binding.h"
@@ -11,7 +12,6 @@
 
 #include <QCheckBox>
 #include <QEvent>
-#include <QKeyEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QStyle>
@@ -33,13 +33,11 @@ QRect geometry_of(Place const& place, Scale const& scale)
 
 } // namespace
 
-MiscPanel::MiscPanel(ArmyControls& controls, Scale const& scale, std::function<bool()> add_row,
-                     std::function<void(int)> show_help, QWidget* parent)
+MiscPanel::MiscPanel(ArmyControls& controls, Scale const& scale, std::function<bool()> add_row, QWidget* parent)
     : CaptionFrame(parent),
       controls_(controls),
       scale_(scale),
-      add_row_(std::move(add_row)),
-      show_help_(std::move(show_help))
+      add_row_(std::move(add_row))
 {
     bind(controls.FrameMisc, *this);
 }
@@ -91,6 +89,8 @@ void MiscPanel::make_row(int index)
     row.value->entry().set_reading(whole_number<TextToLong>);
     row.value->setGeometry(geometry_of(value_field.place, scale_));
 
+    set_help_topic(*row.box, box_field.help_topic);
+    set_help_topic(*row.value, value_field.help_topic);
     also_show(box_field, [this, row] { show_ticked(row); });
     fit_caption(row);
     if (rows_.size() > 1) setTabOrder(rows_.back().value, row.box);
@@ -131,18 +131,6 @@ void MiscPanel::changeEvent(QEvent* event)
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
         for (auto const& row : rows_) fit_caption(row);
     }
-}
-
-void MiscPanel::keyPressEvent(QKeyEvent* event)
-{
-    if (event->key() == Qt::Key_F1) {
-        for (auto const& row : rows_) {
-            if (!row.box->hasFocus() && !row.value->hasFocus()) continue;
-            if (int const topic = controls_.chkMisc(row.index).help_topic; topic != 0) show_help_(topic);
-            return;
-        }
-    }
-    CaptionFrame::keyPressEvent(event);
 }
 
 } // namespace warhost

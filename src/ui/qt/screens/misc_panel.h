@@ -20,15 +20,13 @@ class MiscPanel : public CaptionFrame {
     Q_OBJECT
 
 public:
-    /// add_row makes the list's next row; false when there is none. show_help opens the manual at a topic.
-    MiscPanel(ArmyControls& controls, Scale const& scale, std::function<bool()> add_row,
-              std::function<void(int)> show_help, QWidget* parent);
+    /// add_row makes the list's next row; false when there is none.
+    MiscPanel(ArmyControls& controls, Scale const& scale, std::function<bool()> add_row, QWidget* parent);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     struct Row {
@@ -45,7 +43,6 @@ private:
     ArmyControls& controls_;
     Scale scale_;
     std::function<bool()> add_row_;
-    std::function<void(int)> show_help_;
     std::vector<Row> rows_;
 };
 

@@ -180,7 +180,6 @@ void Window::make_screens()
                          scale_,
                          content_size(form_.FrameArmy, scale_),
                          [this] { return form_.add_misc_row(); },
-                         [this](int topic) { desktop_.show_help(topic); },
                          client_};
     form_.FrameArmy.show = [this] { place_screen(form_.FrameArmy, *army_); };
     form_.FrameCombat.show = [this] {
