@@ -43,7 +43,7 @@ int main(int argc, char* argv[])
     QString const data_folder = QCoreApplication::applicationDirPath();
     std::unique_ptr<warhost::HelpViewer> manual;
     auto const show_manual = [&](auto const& place) {
-        if (!manual) manual = std::make_unique<warhost::HelpViewer>(data_folder + "/help");
+        if (!manual) manual = std::make_unique<warhost::HelpViewer>(data_folder + "/help", desktop.window());
         manual->open(place);
     };
     desktop.help = show_manual;

@@ -196,6 +196,20 @@ TEST(HelpViewer, lists_the_hits_of_all_pages_and_opens_each_with_its_text_marked
     EXPECT_TRUE(page.hasFocus());
 }
 
+TEST(HelpViewer, opens_beside_the_main_window_or_where_it_covers_least_of_it)
+{
+    QRect const room{0, 30, 1900, 1000};
+    QSize const size{900, 700};
+    std::tuple<QRect, QPoint> const rows[] = {
+        {{50, 100, 900, 700}, {950, 100}},   // at its right
+        {{1000, 100, 900, 700}, {100, 100}}, // at its left
+        {{50, 600, 900, 400}, {950, 330}},   // higher, to be whole
+        {{500, 30, 900, 700}, {1000, 330}},  // no room
+        {{400, 330, 900, 700}, {1000, 30}},
+    };
+    for (auto const& [other, place] : rows) EXPECT_EQ(place_beside(other, size, room), place) << other.left();
+}
+
 /// A browser, as far as the desktop is concerned.
 struct Browser : QTextBrowser {
     QVariant loadResource(int /*type*/, QUrl const& /*name*/) override { return QString{"shown"}; }
@@ -219,7 +233,7 @@ TEST(HelpViewer, opens_links_out_of_the_manual_in_the_browser)
 TEST(HelpKey, opens_the_topic_of_the_row_or_the_page_of_the_screen_or_the_dialog)
 {
     Screen screen;
-    HelpViewer viewer{manual};
+    HelpViewer viewer{manual, &screen.window};
     HelpKey const help_key{[&](int topic) { viewer.open(topic); }, [&](char const* address) { viewer.open(address); }};
     auto const shown_from = [&](QWidget& at) {
         viewer.open(13); // another page

@@ -19,6 +19,7 @@ class QtDesktop : public Desktop {
 public:
     /// The main window, which the dialogs stand on.
     void attach(QWidget* window) { window_ = window; }
+    QWidget* window() const { return window_; }
     void set_scale(Scale const& scale) { scale_ = scale; }
     void set_client_size(QSize pixels) { client_ = pixels; }
     /// No report is shown any more: it would keep the program running.

@@ -25,7 +25,7 @@ namespace warhost {
 namespace {
 
 // At the base font; a larger font makes the window larger, as far as the screen goes.
-constexpr QSize base_size{960, 680};
+constexpr QSize base_size{860, 680};
 constexpr int base_contents_width = 260;
 
 void add_to_bar(QToolBar& bar, QAction* action, char const* spoken, std::optional<QStyle::StandardPixmap> icon = {})
@@ -40,9 +40,24 @@ void add_to_bar(QToolBar& bar, QAction* action, char const* spoken, std::optiona
 
 } // namespace
 
-HelpViewer::HelpViewer(QString const& folder, QWidget* parent)
-    : QMainWindow(parent),
-      folder_(folder),
+QPoint place_beside(QRect const& other, QSize size, QRect const& room)
+{
+    int const right = room.right() + 1 - size.width();
+    int const bottom = room.bottom() + 1 - size.height();
+    int const level = std::clamp(other.top(), room.top(), std::max(room.top(), bottom));
+    for (int const left : {other.right() + 1, other.left() - size.width()}) {
+        if (room.contains(QRect{{left, level}, size})) return {left, level};
+    }
+    auto const covered = [&](QPoint const& place) {
+        QRect const both = other & QRect{place, size};
+        return both.width() * both.height();
+    };
+    return std::min({QPoint{right, room.top()}, {room.left(), room.top()}, {right, bottom}, {room.left(), bottom}},
+                    [&](auto const& one, auto const& another) { return covered(one) < covered(another); });
+}
+
+HelpViewer::HelpViewer(QString const& folder, QWidget const* main_window)
+    : folder_(folder),
       contents_(new ContentsPane{folder, entries_}),
       page_(new HelpPage{folder}),
       find_bar_(new FindBar{*page_})
@@ -50,7 +65,7 @@ HelpViewer::HelpViewer(QString const& folder, QWidget* parent)
     setObjectName("helpViewer");
     setWindowTitle("Warhost Help");
     setAttribute(Qt::WA_QuitOnClose, false);
-    arrange();
+    arrange(main_window != nullptr && main_window->isVisible() ? *main_window : *this);
     make_actions();
 
     connect(contents_, &ContentsPane::entry_chosen, page_,
@@ -63,7 +78,8 @@ HelpViewer::HelpViewer(QString const& folder, QWidget* parent)
     connect(page_, &QTextBrowser::sourceChanged, this, &HelpViewer::follow_page);
 }
 
-void HelpViewer::arrange()
+/// other: the window beside which this one is to stand, or this one.
+void HelpViewer::arrange(QWidget const& other)
 {
     auto* const side = new QWidget;
     auto* const column = new QVBoxLayout{side};
@@ -83,8 +99,10 @@ void HelpViewer::arrange()
     follow_page_palette(*splitter);
 
     double const scale = growth(font());
-    QSize const room = screen()->availableSize();
-    resize((QSizeF{base_size} * scale).toSize().boundedTo(room));
+    QRect const room = other.screen()->availableGeometry();
+    QSize const frame = other.frameSize() - other.size();
+    resize((QSizeF{base_size} * scale).toSize().boundedTo(room.size() - frame));
+    if (&other != this) move(place_beside(other.frameGeometry(), size() + frame, room));
     int const contents_width = static_cast<int>(base_contents_width * scale);
     splitter->setSizes({contents_width, std::max(1, width() - contents_width)});
 }

@@ -19,14 +19,18 @@ class ContentsPane;
 class FindBar;
 class HelpPage;
 
+/// Where a window of the size, frame included, lies inside the room: at the right of the other window or at its left,
+/// and in the corner where it covers least of it when there is no room for that.
+QPoint place_beside(QRect const& other, QSize size, QRect const& room);
+
 /// Contents at the left, the page at the right. What is missing - the manual, a page, a topic - is told in the
 /// window. The program ends without waiting for it.
 class HelpViewer : public QMainWindow {
     Q_OBJECT
 
 public:
-    /// folder: where contents.txt and the pages lie.
-    explicit HelpViewer(QString const& folder, QWidget* parent = nullptr);
+    /// folder: where contents.txt and the pages lie. main_window: the one not to cover, or none.
+    explicit HelpViewer(QString const& folder, QWidget const* main_window = nullptr);
 
     /// Shows the topic, or the contents page for 0, in front of the other windows.
     void open(int topic);
@@ -37,7 +41,7 @@ private:
     void read_contents();
     void show_topic(int topic);
     void come_forward();
-    void arrange();
+    void arrange(QWidget const& other);
     void make_actions();
     void make_page_actions(QToolBar& bar);
     void make_find_actions(QToolBar& bar);
