@@ -77,7 +77,7 @@ TEST(Manual, every_entry_and_link_has_its_page_and_anchor_and_every_row_its_topi
     EXPECT_GT(rows, 0);
 }
 
-TEST(HelpViewer, opens_topics_follows_links_and_tells_what_is_missing)
+TEST(HelpViewer, opens_topics_follows_links_and_reports_what_is_missing)
 {
     HelpViewer viewer{manual};
     auto& page = *viewer.findChild<QTextBrowser*>("helpPage");
