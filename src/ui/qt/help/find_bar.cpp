@@ -89,8 +89,8 @@ void FindBar::find(QTextDocument::FindFlags direction)
     cursor.movePosition(direction.testFlag(QTextDocument::FindBackward) ? QTextCursor::End : QTextCursor::Start);
     page_.setTextCursor(cursor);
     if (page_.find(text_->text(), direction)) {
-        message_->setText(direction.testFlag(QTextDocument::FindBackward) ? "Went on at the end of the page"
-                                                                          : "Went on at the top of the page");
+        message_->setText(direction.testFlag(QTextDocument::FindBackward) ? "Continued from the end of the page"
+                                                                          : "Continued from the top of the page");
     } else {
         page_.setTextCursor(before);
         message_->setText("Not in this page");
