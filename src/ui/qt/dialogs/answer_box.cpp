@@ -1,5 +1,6 @@
 #include "ui/qt/dialogs/answer_box.h"
 
+#include "ui/qt/dialogs/dialog_parts.h"
 #include "ui/qt/look/scale.h"
 #include "ui/qt/look/type.h"
 #include "ui/qt/widgets/text.h"
@@ -106,12 +107,15 @@ AnswerBox::AnswerBox(Message const& box, QWidget* parent) : QDialog(parent), ans
         sign->setPixmap(pixmap);
         message->addWidget(sign, 0, Qt::AlignTop);
     }
-    message->addWidget(wrapped_text(text, font(), screen()->availableSize()), 1, Qt::AlignVCenter | Qt::AlignLeft);
+    QTextEdit* const shown = wrapped_text(text, font(), screen()->availableSize());
+    bool const begins_line = message->isEmpty();
+    message->addWidget(shown, 1, Qt::AlignVCenter | Qt::AlignLeft);
 
     auto* const buttons = new QHBoxLayout;
     buttons->setSpacing(style()->pixelMetric(QStyle::PM_LayoutHorizontalSpacing, nullptr, this));
     buttons->addStretch();
     auto* const rows = new QVBoxLayout{this};
+    if (begins_line) move_ring_into_margin(*rows, *shown);
     rows->setSpacing(scale_of(this).from_base(message_gap));
     rows->addLayout(message);
     rows->addLayout(buttons);

@@ -198,15 +198,15 @@ void CasualtyHistogram::draw_bars(QPainter& painter) const
     }
 }
 
-/// A mark at the height that each bar would have; losses that next to never happen have none.
+/// A mark at the height that each bar would have; none where it would hide a low bar.
 void CasualtyHistogram::draw_marks(QPainter& painter) const
 {
+    int const line = scale_of(this).line();
     int const bottom = plot().bottom() + 1;
     for (int percent = 0; percent <= highest_share; ++percent) {
         int const left = x_of(percent - 0.5);
         int const top = y_of(exact_.at(static_cast<std::size_t>(percent)));
-        if (top < bottom)
-            painter.fillRect(left, top, x_of(percent + 0.5) - left, scale_of(this).line(), colours().text);
+        if (bottom - top >= 3 * line) painter.fillRect(left, top, x_of(percent + 0.5) - left - 1, line, colours().text);
     }
 }
 

@@ -3,6 +3,7 @@
 #include "ui/qt/look/colours.h"
 #include "ui/qt/look/scale.h"
 
+#include <QLayout>
 #include <QPainter>
 
 namespace warhost {
@@ -25,6 +26,14 @@ QLabel* selectable_text(QString const& text, char const* spoken)
     label->setIndent(0);
     label->setAccessibleName(spoken);
     return label;
+}
+
+int move_ring_into_margin(QLayout& layout, QFrame const& text)
+{
+    QMargins margins = layout.contentsMargins();
+    margins.setLeft(margins.left() - text.frameWidth());
+    layout.setContentsMargins(margins);
+    return text.frameWidth();
 }
 
 } // namespace warhost

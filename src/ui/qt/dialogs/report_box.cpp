@@ -60,8 +60,12 @@ ReportBox::ReportBox(Message const& report, Tally const& tally, Odds const& odds
 
     auto* const rows = new QVBoxLayout{this};
     rows->setSpacing(gap);
+    int const ring = move_ring_into_margin(*rows, *result);
+    auto* const line = new QHBoxLayout;
+    line->setContentsMargins(ring, 0, 0, 0);
+    line->addWidget(new Rule{Qt::Horizontal, this});
     rows->addLayout(top);
-    rows->addWidget(new Rule{Qt::Horizontal, this});
+    rows->addLayout(line);
     rows->addLayout(bottom);
     rows->setSizeConstraint(QLayout::SetFixedSize);
     ok->setDefault(true);

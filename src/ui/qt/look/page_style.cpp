@@ -346,7 +346,8 @@ void PageStyle::drawPrimitive(PrimitiveElement element, QStyleOption const* opti
     case PE_IndicatorRadioButton: return draw_indicator(*option, *painter, widget, true);
     case PE_IndicatorBranch: return draw_branch(*option, *painter, widget);
     case PE_FrameFocusRect: {
-        bool const tool = qobject_cast<QToolButton const*>(widget) != nullptr; // whose own rectangle cuts the icon
+        if (is_in(*option, State_Item) && is_in(*option, State_Selected)) return; // the list has a ring
+        bool const tool = qobject_cast<QToolButton const*>(widget) != nullptr;    // whose own rectangle cuts the icon
         return Pen{*painter, widget, true}.ring(tool ? widget->rect() : option->rect, field_corner);
     }
     case PE_Frame: {

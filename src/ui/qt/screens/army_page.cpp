@@ -54,6 +54,14 @@ constexpr int options_of(int category)
 constexpr int end_of(int top, int rows) { return top + CaptionFrame::contents_top + rows * row_height; }
 static_assert(end_of(pair_top, std::max(options_of(4), options_of(7))) == columns_end);
 
+/// Gives the labels of a line one height, so that their texts are level after every rounding.
+void level_texts(QBoxLayout const& line, int height)
+{
+    for (int k = 0; k < line.count(); ++k) {
+        if (auto* const label = qobject_cast<QLabel*>(line.itemAt(k)->widget())) label->setFixedHeight(height);
+    }
+}
+
 } // namespace
 
 ArmyPage::ArmyPage(ArmyControls& controls, Reading const& level_reading, Scale const& scale, QSize content,
@@ -235,16 +243,15 @@ QLayout* ArmyPage::ratio_line()
 {
     auto* const line = make_.row(4);
     QLabel* const bonus = make_.label(controls_.lblRatioBonus, 0, type::caption);
-    bonus->setAlignment(Qt::AlignRight);
-    auto* const caption = make_.label(controls_.Label12);
-    caption->setFixedHeight(make_.span(units_end, ratio_end));
+    bonus->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     line->setContentsMargins(0, 0, make_.pixels(5), 0);
-    line->addWidget(caption);
+    line->addWidget(make_.label(controls_.Label12));
     QLabel* const ratio = make_.label(controls_.lblRatio, 48);
     ratio->setAlignment(Qt::AlignCenter);
     line->addWidget(ratio);
     line->addWidget(make_.label(controls_.Label14));
     line->addWidget(bonus, 1);
+    level_texts(*line, make_.span(units_end, ratio_end));
     return line;
 }
 
@@ -316,16 +323,15 @@ QWidget* ArmyPage::experience(Reading const& level_reading)
 
     auto* const second = make_.row(8);
     second->setContentsMargins(0, 0, make_.pixels(5), 0);
-    auto* const versus = make_.label(controls_.Label16);
-    versus->setFixedHeight(make_.pixels(row_height));
     auto* const bonus = make_.label(controls_.lblLevelBonus, 0, type::caption);
-    bonus->setAlignment(Qt::AlignRight);
+    bonus->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     auto* const other = make_.label(controls_.lblOtherLevel, 64);
     other->setAlignment(Qt::AlignCenter);
-    second->addWidget(versus);
+    second->addWidget(make_.label(controls_.Label16));
     second->addWidget(other);
     second->addWidget(make_.label(controls_.Label18));
     second->addWidget(bonus, 1);
+    level_texts(*second, make_.pixels(row_height));
     lines->addLayout(second);
     return frame;
 }

@@ -156,7 +156,7 @@ QWidget* CombatPage::battle_roll()
 
 QLayout* CombatPage::result(int Index)
 {
-    constexpr int digits_right = 5; // beside the margin that every box has
+    constexpr int digits_right = 2; // beside the margin that every box has
     auto* const line = make_.row(0);
     auto* const caption = make_.label(controls_.Label(8 + Index));
     EntryBox* const box = make_.number_box(controls_.txtResult(Index), spoken_side(Index) + ", result", result_width);

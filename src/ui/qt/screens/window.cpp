@@ -201,20 +201,20 @@ void Window::show_army_names()
     combat_->show_army_names({beginning_of(form_.ArmyA.Name), beginning_of(form_.ArmyB.Name)});
 }
 
-/// Where the screens scroll, a frame ends at a margin, in pixels of the base size, before the client area does.
-QRect Window::place_of(Frame const& frame, int margin) const
+/// Where the screens scroll, a frame ends at margins, in pixels of the base size, before the client area does.
+QRect Window::place_of(Frame const& frame, int right_margin, int lower_margin) const
 {
     auto const& box = frame.box();
     QPoint const place{scale_.from_twips(box.Left), scale_.from_twips(box.Top)};
     QSize const size = scale_.from_twips(box.Width, box.Height) + extra_;
-    int const free = scale_.from_base(margin);
-    QSize const room{client_->width() - place.x() - free, client_->height() - place.y() - free};
+    QSize const room{client_->width() - place.x() - scale_.from_base(right_margin),
+                     client_->height() - place.y() - scale_.from_base(lower_margin)};
     return {place, scrolls_ ? size.boundedTo(room) : size};
 }
 
 void Window::place_tab_strip()
 {
-    tabs_->setGeometry(place_of(form_.TabStrip, 4));
+    tabs_->setGeometry(place_of(form_.TabStrip, 4, 4));
     QSignalBlocker const only_shown{tabs_};
     tabs_->setCurrentIndex(form_.TabStrip.position() - 1);
     tabs_->update();
@@ -224,7 +224,7 @@ void Window::place_tab_strip()
 void Window::place_screen(Frame const& frame, ScreenArea& screen)
 {
     auto const& box = frame.box();
-    QRect room = place_of(frame, 8);
+    QRect room = place_of(frame, 8, 0);
     if (scrolls_) room.setTop(std::max(room.top(), scale_.from_base(strip_height)));
     screen.place(room, scale_.from_twips(box.Width, box.Height), scrolls_);
     screen.setVisible(frame.visible());

@@ -43,7 +43,7 @@ private:
     void make_combat_screen();
     void fit_to_screen();
     void follow_size();
-    QRect place_of(Frame const& frame, int margin) const;
+    QRect place_of(Frame const& frame, int right_margin, int lower_margin) const;
     void place_tab_strip();
     void place_screen(Frame const& frame, ScreenArea& screen);
     void place_misc_panel();

@@ -85,7 +85,8 @@ void CaptionFrame::paintEvent(QPaintEvent* /*event*/)
     painter.fillRect(0, head.height(), width(), scale.line(), Index_ ? in_state(isEnabled(), own) : of.soft);
     if (Index_) {
         double const size = mark_size * scale.factor();
-        draw_side_mark(painter, *Index_, {0, (head.height() - size) / 2, size, size}, in_state(isEnabled(), own));
+        draw_side_mark(painter, *Index_, {mark_left * scale.factor(), (head.height() - size) / 2, size, size},
+                       in_state(isEnabled(), own));
     }
     auto const write = [&](int left, int room, Qt::Alignment alignment, QColor const& colour, QFont const& font,
                            QString const& text) {

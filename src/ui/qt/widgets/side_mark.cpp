@@ -16,9 +16,10 @@ QSize SideMark::sizeHint() const
 
 void SideMark::paintEvent(QPaintEvent* /*event*/)
 {
-    double const size = mark_size * scale_of(this).factor();
+    double const factor = scale_of(this).factor();
+    double const size = mark_size * factor;
     QPainter painter{this};
-    draw_side_mark(painter, Index_, {0, (height() - size) / 2, size, size},
+    draw_side_mark(painter, Index_, {mark_left * factor, (height() - size) / 2, size, size},
                    in_state(isEnabled(), colours().side.at(static_cast<std::size_t>(Index_))));
 }
 
