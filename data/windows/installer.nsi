@@ -37,11 +37,11 @@ VIAddVersionKey LegalCopyright "Copyright 2026 The Warhost developers"
 !insertmacro MUI_UNPAGE_INSTFILES
 !insertmacro MUI_LANGUAGE English
 
-; Stops where the program runs: its files could not be replaced.
-!macro StopWhileItRuns
-    ${If} ${FileExists} $INSTDIR\warhost.exe
+; Stops where the program in the folder runs: its files could not be replaced.
+!macro StopWhileItRuns FOLDER
+    ${If} ${FileExists} ${FOLDER}\warhost.exe
         ClearErrors
-        FileOpen $0 $INSTDIR\warhost.exe a
+        FileOpen $0 ${FOLDER}\warhost.exe a
         ${If} ${Errors}
             MessageBox MB_ICONEXCLAMATION "Warhost is running, or its files are protected. Please quit it and try again." /SD IDOK
             SetErrorLevel 2
@@ -96,15 +96,20 @@ VIAddVersionKey LegalCopyright "Copyright 2026 The Warhost developers"
 
 Section Warhost
     SectionIn RO
-    !insertmacro StopWhileItRuns
-    ${If} ${FileExists} $INSTDIR\uninstall.exe
-        ExecWait '"$INSTDIR\uninstall.exe" /S _?=$INSTDIR' $0
+    !insertmacro StopWhileItRuns $INSTDIR
+    ; The version that is installed, which may be in another folder.
+    ReadRegStr $1 HKCU ${UNINSTALL_KEY} InstallLocation
+    ${If} $1 != ""
+    ${AndIf} ${FileExists} $1\uninstall.exe
+        !insertmacro StopWhileItRuns $1
+        ExecWait '"$1\uninstall.exe" /S _?=$1' $0
         ${If} $0 <> 0
             MessageBox MB_ICONEXCLAMATION "The installed version could not be removed." /SD IDOK
             SetErrorLevel 2
             Quit
         ${EndIf}
-        Delete $INSTDIR\uninstall.exe
+        Delete $1\uninstall.exe
+        RMDir $1
     ${EndIf}
 
     !define FILE_ACTION InstallFile
@@ -150,7 +155,7 @@ Function .onInit
 FunctionEnd
 
 Section Uninstall
-    !insertmacro StopWhileItRuns
+    !insertmacro StopWhileItRuns $INSTDIR
     !undef FILE_ACTION
     !undef OWN_FILE_ACTION
     !undef FOLDER_ACTION
