@@ -46,8 +46,8 @@ fetch_source()
     (cd "$apt" && "${apt_get[@]}" source --only-source "qt6-base=$version")
     mkdir -p "$folder/source-package"
     mv "$apt"/*.dsc "$apt"/*.tar.* "$folder/source-package"
-    mv "$apt"/qt6-base-*/ "$folder/source"
-    cp "$folder/source/debian/copyright" "$folder/toolkit-copyright.txt"
+    cp "$apt"/qt6-base-*/debian/copyright "$folder/toolkit-copyright.txt"
+    mv "$apt"/qt6-base-*/ "$folder/source" # the last, as it says that all is there
     rm -rf --one-file-system "$apt"
 }
 
