@@ -7,9 +7,17 @@
 #include <cstddef>
 #include <fcntl.h>
 #include <string>
+#include <system_error>
 #include <unistd.h>
 
 namespace warhost {
+
+bool is_file(std::filesystem::path const& path)
+{
+    std::error_code error;
+    auto const status = std::filesystem::status(path, error);
+    return std::filesystem::exists(status) && !std::filesystem::is_directory(status);
+}
 
 std::string read_ordinary_file(std::filesystem::path const& path, std::size_t most)
 {

@@ -2,7 +2,19 @@
 
 #include "files/handle_windows.h"
 
+#include <system_error>
+
 namespace warhost {
+
+bool is_file(std::filesystem::path const& path)
+{
+    try {
+        DWORD const attributes = ::GetFileAttributesW(unlimited(path).c_str());
+        return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+    } catch (std::system_error const&) { // no name for a file
+        return false;
+    }
+}
 
 std::string read_ordinary_file(std::filesystem::path const& path, std::size_t most)
 {

@@ -9,6 +9,9 @@
 
 namespace warhost {
 
+/// Whether path names something that exists and is no folder. Never fails: what cannot be asked is false.
+bool is_file(std::filesystem::path const& path);
+
 /// The bytes of the ordinary file that path leads to; errc::file_too_large for more than `most`. Never waits for a
 /// pipe, a device or another process; does not change the file.
 std::string read_ordinary_file(std::filesystem::path const& path, std::size_t most);

@@ -30,9 +30,7 @@ fs::path path_of(std::string const& utf8)
 bool FileExists(std::string const& path)
 {
     try {
-        std::error_code error;
-        auto const status = fs::status(path_of(path), error);
-        return fs::exists(status) && !fs::is_directory(status);
+        return is_file(path_of(path));
     } catch (Failure const&) {
         return false;
     }

@@ -113,6 +113,7 @@ TEST_F(WholeFile, is_replaced_under_any_name_and_keeps_its_permissions)
     for (auto const& bytes : {std::string(2000000, 'x'), std::string{"two\r\n"}}) {
         for (auto const& name : {foreign, folder + "/" + std::string(150, 'n')}) { // more than 260 characters
             replace_file(name, bytes);
+            EXPECT_TRUE(FileExists(name));
             EXPECT_EQ(read_file(name), bytes);
         }
     }
