@@ -12,6 +12,8 @@ namespace warhost {
 
 namespace {
 
+constexpr DWORD share_all = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+
 using Rights = std::vector<unsigned char>;
 
 /// Who may do what with a file; empty where its file system does not tell.
@@ -70,7 +72,7 @@ public:
     {
         std::random_device random;
         do name_ = folder / temporary_name(std::uint64_t{random()} << 32U | random());
-        while (!file_.open(name_, GENERIC_WRITE | WRITE_DAC | DELETE, 0, CREATE_NEW) && taken());
+        while (!file_.open(name_, GENERIC_WRITE | DELETE, 0, CREATE_NEW) && taken());
     }
     NewFile(NewFile const&) = delete;
     NewFile& operator=(NewFile const&) = delete;
@@ -80,9 +82,13 @@ public:
         if (!name_.empty()) ::DeleteFileW(name_.c_str());
     }
 
+    /// Network folders often let nobody change rights, so that is asked for only where the folder gives others.
     void take_over_rights(Rights rights) const
     {
-        require(::SetKernelObjectSecurity(file_.handle(), DACL_SECURITY_INFORMATION, rights.data()) != 0);
+        if (rights_of(file_) == rights) return;
+        File same;
+        require(same.open(name_, WRITE_DAC, share_all, OPEN_EXISTING));
+        require(::SetKernelObjectSecurity(same.handle(), DACL_SECURITY_INFORMATION, rights.data()) != 0);
     }
 
     void take_over_marks(FILE_BASIC_INFO marks) const
@@ -142,7 +148,6 @@ void replace_durably(std::filesystem::path const& path, std::string_view bytes)
     if (exists) {
         // What is marked read-only, or must not be written, or is in use, stays.
         if ((attributes & FILE_ATTRIBUTE_READONLY) != 0) fail(ERROR_ACCESS_DENIED);
-        constexpr DWORD share_all = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
         File old; // a link that leads to nothing cannot be opened either, and stays
         require(old.open(place, GENERIC_WRITE | DELETE, share_all, OPEN_EXISTING));
         require_ordinary(old, path);
