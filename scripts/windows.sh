@@ -26,7 +26,9 @@ cmake --install build/windows --prefix "$bundle" --strip >/dev/null
 x86_64-w64-mingw32-strip "$bundle"/lib*.dll
 mkdir "$bundle/licences"
 cp LICENSE "$bundle/licences/warhost.txt"
-cp /usr/share/common-licenses/{GPL-3,LGPL-3} "$toolkit/toolkit-copyright.txt" "$bundle/licences"
+cp "$toolkit/toolkit-copyright.txt" "$bundle/licences"
+cp /usr/share/common-licenses/GPL-3 "$bundle/licences/gpl-3.txt"
+cp /usr/share/common-licenses/LGPL-3 "$bundle/licences/lgpl-3.txt"
 cp /usr/share/doc/gcc-mingw-w64-base/copyright "$bundle/licences/compiler-copyright.txt"
 cp /usr/share/doc/mingw-w64-common/copyright "$bundle/licences/runtime-copyright.txt"
 sed "s/@TOOLKIT_VERSION@/$(cat "$toolkit/complete")/" data/windows/libraries.txt.in >"$bundle/licences/libraries.txt"
