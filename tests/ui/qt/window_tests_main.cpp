@@ -24,7 +24,8 @@ int main(int argc, char* argv[])
     screens.open(QIODevice::WriteOnly);
     screens.write(screen.arg(size.at(0), size.at(1)).toUtf8());
     screens.close();
-    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=screens.json"); // a drive's colon would end the name
+    if (qgetenv("QT_QPA_PLATFORM") != "windows")                         // a real screen
+        qputenv("QT_QPA_PLATFORM", "offscreen:configfile=screens.json"); // a drive's colon would end the name
     qputenv("XDG_CONFIG_HOME", folder.path().toUtf8());
     QString const start = QDir::currentPath();
     QDir::setCurrent(folder.path());
