@@ -156,9 +156,13 @@ printf 'Mine\r\n1,2\r\n' >>"$installed/modif.txt"
 wine "$setup" /S
 [ "$(tail -n 1 "$installed/modif.txt")" = $'1,2\r' ] || fail 'An upgrade has replaced the changed list.'
 cmp "$installed/modif.new.txt" data/modif.txt
-wine "$installed/uninstall.exe" /S
+elsewhere="$user/War host"
+wine "$setup" /S "/D=C:\\users\\$(id -un)\\War" host # the last option is not quoted
+[ -e "$elsewhere/warhost.exe" ] || fail 'The folder for the program was not taken.'
+[ ! -e "$installed/warhost.exe" ] || fail 'The version in the other folder is still there.'
+wine "$elsewhere/uninstall.exe" /S
 for ((tries = 0; tries < 100; ++tries)); do
-    [ -e "$installed/uninstall.exe" ] || break
+    [ -e "$elsewhere/uninstall.exe" ] || break
     sleep 0.2
 done
 printf 'Left after uninstalling:\n'
