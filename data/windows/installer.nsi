@@ -9,6 +9,7 @@ SetCompressor /SOLID lzma
 !include WinVer.nsh
 
 Name Warhost
+BrandingText "Warhost ${VERSION}"
 OutFile "${OUTPUT}"
 !define UNINSTALL_KEY Software\Microsoft\Windows\CurrentVersion\Uninstall\Warhost
 InstallDir $LOCALAPPDATA\Programs\Warhost
