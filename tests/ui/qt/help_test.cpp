@@ -122,12 +122,12 @@ TEST(HelpViewer, keeps_its_place_and_needs_no_scrolling_to_the_side_at_any_size)
     QCoreApplication::processEvents();
     EXPECT_EQ(page.verticalScrollBar()->value(), 0);
 
-    int const enlarged = page.fontInfo().pixelSize();
+    int const enlarged = page.fontMetrics().height();
     QTest::keyClick(&viewer, Qt::Key_0, Qt::ControlModifier);
-    int const normal = page.fontInfo().pixelSize();
+    int const normal = page.fontMetrics().height();
     QTest::keyClick(&viewer, Qt::Key_Minus, Qt::ControlModifier);
     EXPECT_GT(enlarged, normal);
-    EXPECT_LT(page.fontInfo().pixelSize(), normal);
+    EXPECT_LT(page.fontMetrics().height(), normal);
 }
 
 TEST(HelpViewer, finds_a_text_goes_on_at_the_top_and_closes_the_bar_with_escape)
