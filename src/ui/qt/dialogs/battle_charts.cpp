@@ -3,6 +3,7 @@
 #include "army/armies.h"
 #include "ui/qt/look/colours.h"
 #include "ui/qt/look/contrast.h"
+#include "ui/qt/look/device_pixels.h"
 #include "ui/qt/look/marks.h"
 #include "ui/qt/look/scale.h"
 #include "ui/qt/look/type.h"
@@ -166,10 +167,11 @@ void CasualtyHistogram::draw_axes(QPainter& painter) const
     Scale const scale = scale_of(this);
     int const line = fontMetrics().height();
     QRect const area = plot();
+    DevicePixels pixels{painter};
     painter.setFont(font());
     for (int mark = steps_; mark >= 0; --mark) {
         int const y = y_of(mark * step_);
-        painter.fillRect(area.left(), y, area.width(), scale.line(), mark > 0 ? colours().hair : colours().firm);
+        pixels.draw_line(QRect{area.left(), y, area.width(), scale.line()}, mark > 0 ? colours().hair : colours().firm);
         painter.setPen(colours().dim);
         painter.drawText(QRect{0, y - line / 2, area.left() - scale.from_base(label_gap), line},
                          Qt::AlignRight | Qt::AlignVCenter, percent_label(mark * step_));
@@ -177,7 +179,7 @@ void CasualtyHistogram::draw_axes(QPainter& painter) const
     int const bottom = area.bottom() + 1;
     for (int percent = 0; percent <= highest_share; percent += percent_marks) {
         int const x = x_of(percent);
-        painter.fillRect(x, bottom, scale.line(), scale.from_base(tick_length), colours().firm);
+        pixels.draw_line(QRect{x, bottom, scale.line(), scale.from_base(tick_length)}, colours().firm);
         painter.drawText(QRect{x - line * 2, bottom + scale.from_base(percentages_top), line * 4, line},
                          Qt::AlignHCenter, QString::number(percent));
     }

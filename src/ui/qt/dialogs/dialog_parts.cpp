@@ -1,6 +1,7 @@
 #include "ui/qt/dialogs/dialog_parts.h"
 
 #include "ui/qt/look/colours.h"
+#include "ui/qt/look/device_pixels.h"
 #include "ui/qt/look/scale.h"
 
 #include <QLayout>
@@ -15,7 +16,11 @@ Rule::Rule(Qt::Orientation orientation, QWidget* parent) : QWidget(parent)
     else setFixedWidth(thickness);
 }
 
-void Rule::paintEvent(QPaintEvent* /*event*/) { QPainter{this}.fillRect(rect(), colours().hair); }
+void Rule::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter{this};
+    DevicePixels{painter}.draw_line(rect(), colours().hair);
+}
 
 QLabel* selectable_text(QString const& text, char const* spoken)
 {

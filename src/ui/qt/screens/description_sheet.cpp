@@ -1,6 +1,7 @@
 #include "ui/qt/screens/description_sheet.h"
 
 #include "ui/qt/look/colours.h"
+#include "ui/qt/look/device_pixels.h"
 #include "ui/qt/look/ink.h"
 #include "ui/qt/look/scale.h"
 #include "ui/qt/widgets/widget_maker.h"
@@ -85,9 +86,12 @@ void DescriptionSheet::paintEvent(QPaintEvent* event)
     int const line = scale.line();
     QPainter painter{this};
     painter.setClipRect(event->rect());
-    painter.fillRect(rect(), of.soft);
-    painter.fillRect(rect().adjusted(line, line, -line, -line), of.field);
-    painter.fillRect(line, division_, width() - 2 * line, line, of.hair);
+    DevicePixels pixels{painter};
+    QRect const sheet = pixels.of(rect());
+    int const edge = pixels.thickness(line);
+    pixels.fill(sheet, of.soft);
+    pixels.fill(sheet.adjusted(edge, edge, -edge, -edge), of.field);
+    pixels.draw_line(QRect{line, division_, width() - 2 * line, line}, of.hair);
     std::array const parts{QRectF(0, 0, width(), division_ + line),
                            QRectF(0, division_, width(), height() - division_)};
     for (std::size_t k = 0; k < parts.size(); ++k) {

@@ -2,6 +2,7 @@
 
 #include "ui/qt/help/help_key.h"
 #include "ui/qt/look/colours.h"
+#include "ui/qt/look/device_pixels.h"
 #include "ui/qt/look/ink.h"
 #include "ui/qt/widgets/binding.h"
 #include "ui/qt/widgets/elided_label.h"
@@ -48,11 +49,12 @@ void MiscPanel::paintEvent(QPaintEvent* event)
     Colours const& of = colours();
     QPainter painter{this};
     painter.setClipRect(event->rect());
+    DevicePixels pixels{painter};
     for (auto const& row : rows_) {
         CheckBox const& field = controls_.chkMisc(row.index);
         if (!field.visible) continue;
         QRect const band{0, row.box->y(), width(), row.box->height()};
-        if (of.high_contrast) painter.fillRect(0, band.bottom(), width(), scale_.line(), of.hair);
+        if (of.high_contrast) pixels.draw_line(QRect{0, band.bottom(), width(), scale_.line()}, of.hair);
         else painter.fillRect(band, field.striped ? of.stripe : of.page);
     }
     painter.end();

@@ -2,6 +2,7 @@
 
 #include "ui/qt/look/colours.h"
 #include "ui/qt/look/contrast.h"
+#include "ui/qt/look/device_pixels.h"
 #include "ui/qt/look/marks.h"
 #include "ui/qt/look/scale.h"
 
@@ -129,7 +130,7 @@ void PageGround::paintEvent(QPaintEvent* event)
     painter.setClipRect(event->rect());
     painter.fillRect(rect(), of.page);
     painter.fillRect(0, 0, width(), line_top, of.strip);
-    painter.fillRect(0, line_top, width(), scale.line(), of.soft);
+    DevicePixels{painter}.draw_line(QRect{0, line_top, width(), scale.line()}, of.soft);
 }
 
 } // namespace warhost

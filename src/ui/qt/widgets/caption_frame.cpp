@@ -1,6 +1,7 @@
 #include "ui/qt/widgets/caption_frame.h"
 
 #include "ui/qt/look/colours.h"
+#include "ui/qt/look/device_pixels.h"
 #include "ui/qt/look/marks.h"
 #include "ui/qt/look/scale.h"
 #include "ui/qt/look/type.h"
@@ -82,7 +83,8 @@ void CaptionFrame::paintEvent(QPaintEvent* /*event*/)
     QColor const own = Index_ ? of.side.at(static_cast<std::size_t>(*Index_)) : of.text;
     QPainter painter{this};
     QRect const head{0, 0, width(), scale.from_base(caption_height)};
-    painter.fillRect(0, head.height(), width(), scale.line(), Index_ ? in_state(isEnabled(), own) : of.soft);
+    DevicePixels{painter}.draw_line(QRect{0, head.height(), width(), scale.line()},
+                                    Index_ ? in_state(isEnabled(), own) : of.soft);
     if (Index_) {
         double const size = mark_size * scale.factor();
         draw_side_mark(painter, *Index_, {mark_left * scale.factor(), (head.height() - size) / 2, size, size},

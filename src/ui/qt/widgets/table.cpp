@@ -1,8 +1,10 @@
 #include "ui/qt/widgets/table.h"
 
 #include "ui/qt/look/colours.h"
+#include "ui/qt/look/device_pixels.h"
 
 #include <QGridLayout>
+#include <QLineEdit>
 #include <QPaintEvent>
 #include <QPainter>
 
@@ -19,9 +21,28 @@ void Table::paintEvent(QPaintEvent* event)
     Colours const& of = colours();
     QPainter painter{this};
     painter.setClipRect(event->rect());
-    painter.fillRect(rect(), of.soft);
-    painter.fillRect(rect().adjusted(line_, line_, -line_, -line_), of.hair);
-    for (int k = 0; k < grid_->count(); ++k) painter.fillRect(grid_->itemAt(k)->geometry(), of.band);
+    DevicePixels pixels{painter};
+    int const line = pixels.thickness(line_);
+    QRect const whole = pixels.of(rect());
+    QRect const inside = whole.adjusted(line, line, -line, -line);
+    pixels.fill(whole, of.soft);
+    pixels.fill(inside, of.hair);
+    for (int k = 0; k < grid_->count(); ++k) {
+        QLayoutItem* const item = grid_->itemAt(k);
+        auto const* const box = qobject_cast<QLineEdit const*>(item->widget());
+        pixels.fill(ground_of(item->geometry(), pixels) & inside, box == nullptr      ? of.band
+                                                                  : box->isReadOnly() ? of.page
+                                                                                      : of.field);
+    }
+}
+
+/// What a cell leaves free of the space around it, which rounding makes wider than the line.
+QRect Table::ground_of(QRect const& cell, DevicePixels const& pixels) const
+{
+    QRect const next =
+        pixels.of(cell.adjusted(cell.left() == line_ ? -line_ : 0, cell.top() == line_ ? -line_ : 0, line_, line_));
+    int const line = pixels.thickness(line_);
+    return next.adjusted(0, 0, -line, -line);
 }
 
 } // namespace warhost

@@ -7,6 +7,8 @@ class QGridLayout;
 
 namespace warhost {
 
+class DevicePixels;
+
 /// What a label covers is a head of a row or column. Everything else paints itself.
 class Table : public QWidget {
     Q_OBJECT
@@ -21,6 +23,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    QRect ground_of(QRect const& cell, DevicePixels const& pixels) const;
+
     QGridLayout* grid_;
     int line_;
 };
