@@ -9,6 +9,7 @@
 #include <windows.h>
 #else
 #include <fcntl.h>
+#include <grp.h>
 #include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -276,8 +277,11 @@ TEST_F(SharedFile, keeps_its_owner_and_permissions_where_possible)
         {nobody, nobody, 0, 0664, "65534:0 664"},
         {nobody, nobody, 4242, 0664, "65534:0 604"}, // no member: what the group might do, the new group must not
         {nobody, nobody, 4242, 0606, "65534:0 600"}, // and the old group must not what all others might
-        {nobody, stranger, 0, 02660, "65534:0 660"}, {nobody, stranger, 4242, 04666, "65534:0 606"}};
+        {nobody, stranger, 0, 02660, "65534:0 660"}, {nobody, stranger, 4242, 04666, "65534:0 606"},
+        {nobody, stranger, 4343, 0660, "65534:4343 660"}};
     // clang-format on
+    gid_t const member_of = 4343;
+    ASSERT_EQ(::setgroups(1, &member_of), 0);
     make_folder("folder", nobody, 0700);
     auto const file = path("folder/file");
     for (auto const& row : cases) {
