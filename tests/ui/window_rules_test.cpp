@@ -70,6 +70,7 @@ TEST(MissingList, is_reported_once_and_the_program_works_without_it)
         "' not found. Make sure the file hasn't been moved or deleted. Please reinstall the program "
         "if this occurs again. [OK, exclamation, OK]";
     EXPECT_EQ(program.desktop.boxes, std::vector{box});
+    EXPECT_FALSE(program.form.CheckFile(program.folder.path("modif.txt")));
     program.form.opt(6).set_selected(true);
     EXPECT_EQ(program.form.txtTotal.text(), "2");
 }
