@@ -7,8 +7,8 @@
 namespace warhost {
 
 /// While it exists, SIGTERM and SIGHUP call a function from the event loop instead of ending the process. A signal that
-/// was ignored when the program started stays ignored. Exists once, and needs the application. On Windows, where the
-/// window system makes every such request, it does nothing.
+/// was ignored when the program started stays ignored. At most one may exist; it needs the application. On Windows,
+/// where the window system makes every such request, it does nothing.
 class EndSignals {
 public:
     explicit EndSignals(std::function<void()> on_request);

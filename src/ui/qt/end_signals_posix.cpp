@@ -17,7 +17,7 @@ namespace {
 
 constexpr std::array end_signals{SIGTERM, SIGHUP};
 
-/// Of the pipe that a signal is noted in: a signal handler may do little more than write.
+/// The write end of the pipe that records a signal: a signal handler may do little more than write.
 std::sig_atomic_t volatile& write_end()
 {
     static volatile std::sig_atomic_t end = -1;
@@ -27,7 +27,7 @@ std::sig_atomic_t volatile& write_end()
 extern "C" void note_signal(int /*number*/)
 {
     int const error = errno;
-    // A full pipe holds a request already.
+    // A full pipe already holds a request.
     [[maybe_unused]] auto const written = write(write_end(), "", 1);
     errno = error;
 }
@@ -38,7 +38,7 @@ class EndSignals::Watch {
 public:
     explicit Watch(std::function<void()> on_request) : on_request_(std::move(on_request))
     {
-        if (pipe2(pipe_.data(), O_CLOEXEC | O_NONBLOCK) != 0) return; // the signals then end the program as ever
+        if (pipe2(pipe_.data(), O_CLOEXEC | O_NONBLOCK) != 0) return; // the signals then end the program as usual
         write_end() = pipe_[1];
         notifier_.emplace(pipe_[0], QSocketNotifier::Read);
         QObject::connect(&*notifier_, &QSocketNotifier::activated, &*notifier_, [this] {

@@ -1,12 +1,12 @@
-// What the toolkit would keep from one run to the next.
+// The settings that the toolkit would keep between runs.
 #pragma once
 
 #include <QVariantMap>
 
 namespace warhost {
 
-/// The user's settings of the toolkit, in which its file dialog notes the folders that were visited: what is changed
-/// while this exists is not kept. Needs the application.
+/// Discards changes made while it exists to the user's settings of the toolkit, in which its file dialog records the
+/// visited folders. Needs the application.
 class UnchangedToolkitSettings {
 public:
     UnchangedToolkitSettings();
@@ -15,7 +15,7 @@ public:
     UnchangedToolkitSettings& operator=(UnchangedToolkitSettings const&) = delete;
 
 private:
-    QVariantMap before_; // empty where the settings are not touched at all
+    QVariantMap before_; // empty on systems where the settings are never written
 };
 
 } // namespace warhost

@@ -7,8 +7,8 @@ namespace warhost {
 
 UnchangedToolkitSettings::UnchangedToolkitSettings()
 {
-    // The program is a file, so that nothing can exist or be made below it, and nothing is left when the program is
-    // killed.
+    // A path below the program: since the program is a file, nothing can exist or be created there, and nothing is left
+    // behind if the program is killed.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QCoreApplication::applicationFilePath());
 }
 

@@ -136,7 +136,7 @@ void AboutBox::arrange(QString const& notice)
     auto* const cmdOK = new QPushButton{"OK"};
     cmdOK->setObjectName("cmdOK");
     cmdOK->setDefault(true);
-    connect(cmdOK, &QPushButton::clicked, this, &QWidget::close); // Escape closes the dialog by itself
+    connect(cmdOK, &QPushButton::clicked, this, &QWidget::close); // a QDialog closes on Escape without this
     auto* const bottom = new QHBoxLayout;
     bottom->addWidget(label("lblDisclaimer", "Disclaimer: Use this program at your own risk."));
     bottom->addStretch();

@@ -10,8 +10,8 @@ class AboutBox : public QDialog {
     Q_OBJECT
 
 public:
-    /// Shows a new box, or brings the open one to the front. The legal notice is about.txt in data_folder; a file
-    /// that is not there is named in its place.
+    /// Shows a new box, or brings the open one to the front. The legal notice is about.txt in data_folder; if the file
+    /// is missing, the box shows its path instead.
     static void show_box(QString const& data_folder);
 
 private:

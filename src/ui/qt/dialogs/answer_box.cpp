@@ -48,7 +48,7 @@ constexpr Answer answer_of_escape(Buttons set)
     return last;
 }
 
-/// A text edit and not a label, which would cut a word that is wider than the box.
+/// A text edit, because a label would cut off a word that is wider than the box.
 QTextEdit* wrapped_text(QString const& text, QFont const& own, QSize const& screen)
 {
     auto* const view = new QTextEdit;

@@ -22,9 +22,9 @@ namespace {
 
 constexpr int percent_marks = 10; // along the lower axis
 
-// Pixels of the base size. A histogram from top to bottom: title, mean, plot, percentages, what they are.
+// Pixels of the base size. A histogram from top to bottom: title, mean, plot, percentages, their unit.
 constexpr QSize histogram_size{378, 260};
-constexpr QRect plot_room{36, 44, 3 * (highest_share + 1), 178}; // two of a bar and one between, for each percent
+constexpr QRect plot_room{36, 44, 3 * (highest_share + 1), 178}; // per percent: a bar of two, a gap of one
 constexpr int title_height = 20;
 constexpr int title_gap = 7;
 constexpr int mean_top = 27;
@@ -41,7 +41,7 @@ constexpr int tick_length = 5;
 constexpr double hatch_step = 7;
 constexpr double hatch_width = 2;
 
-/// A step of 1, 2 or 5 times a power of ten that cuts `highest` into at most four parts.
+/// A step of 1, 2 or 5 times a power of ten that divides `highest` into at most four parts.
 double round_step(double highest)
 {
     double const power = std::pow(10.0, std::floor(std::log10(std::max(highest, 1e-6) / 4)));
@@ -62,7 +62,7 @@ template <class Value> std::array<double, highest_share + 1> percentages(Endings
 
 QString percent_label(double value) { return QLocale::system().toString(value, 'g', 3) + "%"; }
 
-/// Moves the labels below the bar, which are in order, until no two of them are closer than `least`.
+/// Moves the labels below the bar, which are in order, until all are at least `least` apart.
 void keep_apart(std::array<OutcomeBar::Label, 3>& labels, int least, int width)
 {
     auto const move_each = [&](auto first, auto last, auto limit) {
@@ -195,12 +195,12 @@ void CasualtyHistogram::draw_bars(QPainter& painter) const
         if (share <= 0) continue;
         int const left = x_of(percent - 0.5);
         int const width = std::max(x_of(percent + 0.5) - left - 1, 1);
-        int const height = std::max(bottom - y_of(share), 1); // the rarest loss shows
+        int const height = std::max(bottom - y_of(share), 1); // even the rarest loss is visible
         painter.fillRect(left, bottom - height, width, height, colours().side.at(static_cast<std::size_t>(Index_)));
     }
 }
 
-/// A mark at the height that each bar would have; none where it would hide a low bar.
+/// A mark at the height that each bar has in the long run; none where it would hide a low bar.
 void CasualtyHistogram::draw_marks(QPainter& painter) const
 {
     int const line = scale_of(this).line();
@@ -248,7 +248,7 @@ void OutcomeBar::show_tally(Tally const& tally, NumberFormat const& format)
     update();
 }
 
-/// Wide enough for the three labels one beside the other.
+/// Wide enough for the three labels side by side.
 QSize OutcomeBar::sizeHint() const
 {
     Scale const scale = scale_of(this);
@@ -258,7 +258,7 @@ QSize OutcomeBar::sizeHint() const
     return {width, scale.from_base(bar_height) + scale.from_base(tick_length) + below.height()};
 }
 
-/// Those of the parts, from left to right. What happened at all is seen; a part that did not happen is empty.
+/// The rectangles of the parts, from left to right. An ending that occurred is visible; one that did not is empty.
 std::array<QRect, 3> OutcomeBar::rooms() const
 {
     Scale const scale = scale_of(this);
@@ -289,7 +289,7 @@ std::array<OutcomeBar::Label, 3> OutcomeBar::labels() const
     auto const fits = [&](std::size_t part, QString const& text) {
         return inside.horizontalAdvance(text) <= in_bar.at(part).width() - 2 * scale.from_base(label_margin);
     };
-    // Both sides' wins are written alike.
+    // The labels of both sides' wins are both short or both long.
     bool const shortly = (fits(0, parts_[0].short_label) && !fits(0, parts_[0].label)) ||
                          (fits(2, parts_[2].short_label) && !fits(2, parts_[2].label));
     std::array<Label, 3> made;
@@ -334,7 +334,7 @@ void OutcomeBar::draw_part(QPainter& painter, std::size_t part, QRect const& roo
     painter.restore();
 }
 
-/// From the middle of a part, around a corner if need be, to its label below.
+/// A line from the middle of a part to its label below, with a corner if necessary.
 void OutcomeBar::draw_tick(QPainter& painter, QRect const& part, QRect const& label) const
 {
     double const from = part.center().x() + 0.5;

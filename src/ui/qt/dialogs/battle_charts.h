@@ -1,4 +1,4 @@
-// The pictures of a simulation's report and progress, drawn in the palette's colours at any scale.
+// The charts of a simulation's report and progress, drawn in the palette's colours at any scale.
 #pragma once
 
 #include "army/value_conversion.h"
@@ -18,7 +18,7 @@ class CasualtyHistogram : public QWidget {
     Q_OBJECT
 
 public:
-    /// Index: 0 for Side A, 1 for Side B. The mean is written as in the report's text.
+    /// Index: 0 for Side A, 1 for Side B. The mean is formatted as in the text of the report.
     CasualtyHistogram(int Index, Tally const& tally, Odds const& odds, NumberFormat const& format,
                       QWidget* parent = nullptr);
 
@@ -52,7 +52,7 @@ class OutcomeBar : public QWidget {
     Q_OBJECT
 
 public:
-    /// What is written of a part: in it, or below it when it is too narrow.
+    /// The label of a part: inside it, or below it if the part is too narrow.
     struct Label {
         QString text;
         QRect room;
@@ -64,7 +64,7 @@ public:
 
     void show_tally(Tally const& tally, NumberFormat const& format);
 
-    /// Of Side A's wins, the ties, Side B's wins; no two overlap.
+    /// The labels of Side A's wins, the ties and Side B's wins; no two overlap.
     std::array<Label, 3> labels() const;
 
     QSize sizeHint() const override;

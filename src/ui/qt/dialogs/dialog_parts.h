@@ -1,4 +1,4 @@
-// What several dialogs are made of.
+// Parts that several dialogs use.
 #pragma once
 
 #include <QLabel>
@@ -7,7 +7,7 @@ class QLayout;
 
 namespace warhost {
 
-/// A hairline between what stands on either side of it.
+/// A hairline that separates two parts of a dialog.
 class Rule : public QWidget {
     Q_OBJECT
 

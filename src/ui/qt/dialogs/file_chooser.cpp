@@ -38,7 +38,7 @@ QStringList filters_of(std::string const& pairs)
 
 bool too_long(QString const& path)
 {
-    constexpr int longest_name = 255; // in whatever the system counts, no system takes more
+    constexpr int longest_name = 255; // no system allows more, whatever unit it counts
     if (QFileInfo{path}.fileName().size() > longest_name) return true;
     std::string const utf8 = path.toStdString();
     std::error_code error;
@@ -46,8 +46,8 @@ bool too_long(QString const& path)
     return status.type() == std::filesystem::file_type::none && error == std::errc::filename_too_long;
 }
 
-/// Judges files by their names. The toolkit's own provider reads the beginning of every file in the folder, which takes
-/// long on a slow disk, and for ever where a file never answers.
+/// Chooses icons by the names of files. The toolkit's own provider reads the beginning of every file in the folder,
+/// which is slow on a slow disk, and never ends if a file does not respond.
 class NameOnlyIcons : public QFileIconProvider {
 public:
     using QFileIconProvider::icon;
@@ -60,7 +60,7 @@ public:
     }
 };
 
-/// Must not have a meta-object of its own: the toolkit shows the desktop's dialog for its own class only.
+/// Must not declare Q_OBJECT: the toolkit shows the desktop's dialog only for its own class.
 class ChooserDialog : public QFileDialog {
 public:
     ChooserDialog(FileChooser const& chooser, FileDialog const& request, QString const& folder, QWidget* parent)
@@ -82,7 +82,7 @@ public:
         connect(name_box(), &QLineEdit::textChanged, this, [this] { enable_button(); });
     }
 
-    /// The chosen path; nothing after a cancel.
+    /// The chosen path; nothing if the dialog was cancelled.
     std::optional<FileChooser::Choice> choose()
     {
         if (exec() != Accepted) return std::nullopt;
@@ -94,7 +94,7 @@ public:
     void accept() override
     {
         QStringList const files = is_toolkits() ? selectedFiles() : QStringList{};
-        // A folder is entered.
+        // Choosing a folder opens it.
         if (files.isEmpty() || QFileInfo{files.first()}.isDir()) return QFileDialog::accept();
         if (auto const path = chooser_.settled(files.first())) {
             settled_ = *path;
@@ -112,7 +112,7 @@ protected:
 private:
     QLineEdit* name_box() const { return findChild<QLineEdit*>("fileNameEdit"); }
     bool is_toolkits() const { return name_box() != nullptr; }
-    /// The toolkit disables the button while the name is too long, and does not say why.
+    /// The toolkit disables the button while the name is too long, without giving the reason.
     void enable_button()
     {
         if (!name_box()->text().isEmpty()) accept_button_->setEnabled(true);

@@ -1,4 +1,4 @@
-// What a choice in a file dialog stands for, and what is refused before the dialog is over.
+// The path that a choice in a file dialog means, and which choices are rejected before the dialog ends.
 #pragma once
 
 #include "ui/desktop.h"
@@ -13,31 +13,31 @@ class QWidget;
 
 namespace warhost {
 
-/// Adds the default extension and judges the result itself, in every kind of dialog: the toolkit's own, which stays
-/// open when a choice is refused, and the desktop's, which has closed by then and is shown again.
+/// Adds the default extension and checks the result itself, in both kinds of dialog: the toolkit's own stays open when
+/// a choice is rejected; the desktop's has closed by then and is shown again.
 class FileChooser {
 public:
     using Ask = std::function<Answer(Message const&)>;
 
-    /// A choice of the user's. Settled: judged already, while the dialog was open.
+    /// The user's choice. settled: already checked while the dialog was open.
     struct Choice {
         QString path;
         bool settled = false;
     };
-    /// Shows a dialog that begins with a path or a file name, which may be empty; nothing when it is cancelled.
+    /// Shows a dialog that begins with a path or a file name, which may be empty. Returns nothing if it is cancelled.
     using Show = std::function<std::optional<Choice>(QString const& start)>;
 
     FileChooser(FileDialog const& request, Ask ask) : request_(request), ask_(std::move(ask)) {}
 
-    /// Shows dialogs until a choice is settled. Nothing when one is cancelled.
+    /// Shows dialogs until a choice is settled. Returns nothing if one is cancelled.
     std::optional<QString> choose(Show const& show) const;
 
-    /// Shows the desktop's dialog, or the toolkit's where there is none.
+    /// Shows the desktop's dialog, or the toolkit's if the desktop has none.
     std::optional<Choice> show_dialog(QString const& folder, QString const& start, QWidget* window) const;
 
-    /// The path to open or to write. For opening this is the chosen one, and the one with the default extension only
-    /// when the chosen one does not exist; for saving the extension is added to a name without a point. Nothing when
-    /// the choice is refused: then the user knows why, or has answered No to replacing the file.
+    /// The path to open or to write. For opening, this is the chosen path; the default extension is added only if the
+    /// chosen path does not exist. For saving, it is added to a name without a point. Returns nothing if the choice is
+    /// rejected; the user has then seen the reason, or has answered No to replacing the file.
     std::optional<QString> settled(QString const& chosen) const;
 
 private:

@@ -26,10 +26,10 @@ ProgressDialog::ProgressDialog(QWidget* window, QString const& title, QString co
       window_(window)
 {
     if (window != nullptr) {
-        QGuiApplication::inputMethod()->commit(); // while the window still takes it
+        QGuiApplication::inputMethod()->commit(); // while the window still accepts it
         focus_ = window->focusWidget();
         window->setEnabled(false);
-        setEnabled(true); // a child window follows the one below it
+        setEnabled(true); // a child window is disabled with its parent
     }
     setWindowTitle(title);
     setWindowModality(Qt::WindowModal);
@@ -60,9 +60,9 @@ void ProgressDialog::show_share(double share, QString const& left, QString const
     bar_.setValue(static_cast<int>(share * bar_steps));
     left_.setText(left);
     right_.setText(right);
-    if (share < 0) bar_.update(); // what it shows moves
+    if (share < 0) bar_.update(); // its moving part
     show();
-    // What the user does meanwhile is lost on this window, and does not wait for its end.
+    // Input that arrives meanwhile is discarded by this dialog instead of waiting for its end.
     QCoreApplication::processEvents();
 }
 

@@ -1,4 +1,4 @@
-// The modal window that is seen while something takes its time.
+// The modal window that is shown during a long operation.
 #pragma once
 
 #include <QDialog>
@@ -9,18 +9,18 @@
 
 namespace warhost {
 
-/// Takes no input and closes when its owner says so, not by a key. The window below is disabled as long as the dialog
-/// exists: assistive technology would pass a dialog that is only modal.
+/// Accepts no input and is closed by its owner, not by a key. The window below is disabled while the dialog exists:
+/// assistive technology could still reach it behind a dialog that is only modal.
 class ProgressDialog : public QDialog {
     Q_OBJECT
 
 public:
-    /// window: the main window, or none. spoken: what the bar counts, for a screen reader.
+    /// window: the main window, or null. spoken: what the bar counts, for a screen reader.
     ProgressDialog(QWidget* window, QString const& title, QString const& spoken);
     ~ProgressDialog() override;
 
-    /// share: of the whole, 0 to 1; below 0 it is unknown. The texts stand left and right below the bar. The window is
-    /// shown and painted before this returns.
+    /// share: of the whole, 0 to 1; negative if unknown. left, right: texts below the bar. The dialog is shown and
+    /// painted before this returns.
     void show_share(double share, QString const& left, QString const& right = {});
 
     void reject() override {}
@@ -30,7 +30,7 @@ protected:
 
 private:
     QPointer<QWidget> window_;
-    QPointer<QWidget> focus_; // in the window, to be given back
+    QPointer<QWidget> focus_; // in the window; restored at the end
     QVBoxLayout column_{this};
     QProgressBar bar_{this};
     QLabel left_{this};

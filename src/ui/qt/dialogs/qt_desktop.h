@@ -17,12 +17,12 @@ namespace warhost {
 
 class QtDesktop : public Desktop {
 public:
-    /// The main window, which the dialogs stand on.
+    /// The main window, the parent of the dialogs.
     void attach(QWidget* window) { window_ = window; }
     QWidget* window() const { return window_; }
     void set_scale(Scale const& scale) { scale_ = scale; }
     void set_client_size(QSize pixels) { client_ = pixels; }
-    /// No report is shown any more: it would keep the program running.
+    /// From now on no report is shown: it would keep the program running.
     void window_was_closed() { is_closed_ = true; }
     bool simulates() const { return progress_.has_value(); }
 
@@ -44,7 +44,7 @@ public:
     bool open_address(std::string const& address) override;
     void show_about() override;
 
-    /// Where the manual and the About box are shown; without them the requests are passed over.
+    /// Show the manual and the About box; requests are ignored while these are empty.
     std::function<void(int topic)> help;
     std::function<void()> about;
 
@@ -55,8 +55,8 @@ private:
     bool is_closed_ = false;
     Scale scale_;
     QSize client_;
-    std::optional<SimulationProgress> progress_; // of the simulation that runs
-    QString last_folder_;                        // where the user chose a file last
+    std::optional<SimulationProgress> progress_; // of the running simulation
+    QString last_folder_;                        // of the file that the user chose last
 };
 
 } // namespace warhost

@@ -24,7 +24,7 @@ ReportBox::ReportBox(Message const& report, Tally const& tally, Odds const& odds
     : QDialog(parent)
 {
     setWindowTitle(to_qt(report.title));
-    constexpr double width = 15300; // twips, with the frame that the desktop draws around a window
+    constexpr double width = 15300; // twips, including the window's frame
     constexpr double height = 6900;
     setFont(fitting_font(parent != nullptr ? parent->font() : font(), width, height, screen()->availableSize()));
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
@@ -78,7 +78,7 @@ QLayout* ReportBox::pictures(Tally const& tally, Odds const& odds, NumberFormat 
     auto* const column = new QVBoxLayout;
     column->setSpacing(scale_of(this).from_base(8));
     column->addWidget(new OutcomeBar{tally, format});
-    auto* const histograms = new QHBoxLayout; // side by side, so that the whole fits a small screen
+    auto* const histograms = new QHBoxLayout; // side by side, so that the report fits on a small screen
     histograms->setSpacing(scale_of(this).from_base(6));
     for (int const Index : {0, 1}) histograms->addWidget(new CasualtyHistogram{Index, tally, odds, format});
     column->addLayout(histograms);

@@ -1,4 +1,4 @@
-// The simulation's report: the text, its pictures, the exact odds, and how far the sample may be off.
+// The simulation's report: the text, its charts, the exact odds, and the likely error of the sample.
 #pragma once
 
 #include "battle/odds.h"
@@ -14,8 +14,8 @@ class QPushButton;
 
 namespace warhost {
 
-/// A message box in function: the report's text and one button. Enter and Escape close it. Its texts can be selected;
-/// Copy, and the key for it while nothing is selected, copies all of them.
+/// Works like a message box with one button: Enter and Escape close it. Its texts can be selected; Copy copies all of
+/// them, and so does the key for copying while nothing is selected.
 class ReportBox : public QDialog {
     Q_OBJECT
 

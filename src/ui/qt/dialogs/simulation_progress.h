@@ -1,4 +1,4 @@
-// What is seen while a long simulation runs.
+// What is shown during a long simulation.
 #pragma once
 
 #include "army/value_conversion.h"
@@ -13,8 +13,8 @@ class QWidget;
 
 namespace warhost {
 
-/// A modal window from half a second on: the battles fought, percent, time left and the outcome so far, at most ten
-/// times a second. It takes no input; the user gets control back with the report.
+/// After half a second, a modal window: the battles fought, percent, time left and the outcome so far, updated at most
+/// ten times a second. It accepts no input; the user regains control with the report.
 class SimulationProgress {
 public:
     SimulationProgress(QWidget* window, NumberFormat format);

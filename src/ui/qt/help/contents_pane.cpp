@@ -24,10 +24,10 @@ namespace {
 
 // Pixels of the base size.
 constexpr int indentation = 14;
-constexpr int row_padding = 11; // above and below a title together
+constexpr int row_padding = 11; // the sum above and below a title
 constexpr int field_margin = 6;
 
-// What an item of the hit list holds.
+// The data of an item in the list of hits.
 enum Role { entry_role = Qt::UserRole, begin_role, end_role };
 
 QTreeWidget* list_of(char const* name, char const* spoken)
@@ -52,7 +52,7 @@ QTreeWidgetItem* add_item(QTreeWidget& list, QTreeWidgetItem* above, QString con
     return item;
 }
 
-/// From a few words before the place on, so that a narrow list shows what stands there.
+/// The text from a few words before the hit on, so that a narrow list shows the hit.
 QString excerpt(QStringView line, qsizetype place)
 {
     constexpr qsizetype most_before = 16;
@@ -159,7 +159,7 @@ void ContentsPane::open_search()
 
 void ContentsPane::close_search() { field_->clear(); }
 
-/// As the pages are shown, character by character.
+/// The pages as they are shown, so that positions agree character by character.
 void ContentsPane::read_pages()
 {
     for (auto const& entry : entries_) {
@@ -206,7 +206,7 @@ void ContentsPane::list_hits(std::size_t entry, QString const& text, QString con
     if (page != nullptr) page->setText(0, QString{"%1 (%2)"}.arg(entries_[entry].title).arg(page->childCount()));
 }
 
-/// A page stands for its first hit.
+/// The item of a page opens its first hit.
 void ContentsPane::open_hit(QTreeWidgetItem* item)
 {
     emit hit_chosen(entries_[item->data(0, entry_role).toULongLong()], item->data(0, begin_role).toInt(),

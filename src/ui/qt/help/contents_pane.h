@@ -17,29 +17,29 @@ class QUrl;
 
 namespace warhost {
 
-/// The hits take the place of the contents while the search field has text. Escape clears it.
+/// The hits replace the contents while the search field has text. Escape clears the field.
 class ContentsPane : public QWidget {
     Q_OBJECT
 
 public:
-    /// folder: where the pages lie. entries: must outlive the pane.
+    /// folder: of the pages. entries: must outlive the pane.
     ContentsPane(QString folder, std::vector<HelpEntry> const& entries, QWidget* parent = nullptr);
 
-    /// Lists the entries, which have changed.
+    /// Lists the entries anew, after they have changed.
     void fill();
-    /// Selects the entry of the page that is shown: its section's, else the page's own.
+    /// Selects the entry of the section that is shown, or of the page if no section is.
     void follow_page(QUrl const& address);
 
     void open_search();
     /// Shows the contents again.
     void close_search();
     bool has_hits() const { return !hits_.empty(); }
-    /// Chooses the hit that lies `step` places after the current one; the first follows the last.
+    /// Selects the hit `step` places after the current one; the first follows the last.
     void choose_hit(int step);
 
 signals:
     void entry_chosen(HelpEntry const& entry);
-    /// The hit is the text of the page between two positions of its document.
+    /// begin, end: the positions of the hit in the document of the page.
     void hit_chosen(HelpEntry const& page, int begin, int end);
     void search_closed();
 
@@ -56,7 +56,7 @@ private:
     QString folder_;
     std::vector<HelpEntry> const& entries_;
     std::vector<QTreeWidgetItem*> items_; // one per entry
-    QStringList texts_;                   // of the entries' pages, empty for a section; none before the first search
+    QStringList texts_;                   // one per entry: its page, empty for a section; none before the first search
     std::vector<QTreeWidgetItem*> hits_;
     QLineEdit* field_;
     QStackedWidget* lists_;

@@ -70,7 +70,7 @@ void FindBar::find_next() { find({}); }
 
 void FindBar::find_previous() { find(QTextDocument::FindBackward); }
 
-/// A longer text is first looked for where the shorter one was found.
+/// While the user types, the search starts at the current match, so a longer text can match at the same place.
 void FindBar::find_while_typing()
 {
     auto cursor = page_.textCursor();

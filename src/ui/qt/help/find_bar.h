@@ -1,4 +1,4 @@
-// The bar below a page that finds a text in it.
+// The bar below a page that finds text in it.
 #pragma once
 
 #include <QTextDocument>
@@ -10,7 +10,7 @@ class QTextEdit;
 
 namespace warhost {
 
-/// Hidden until opened; Escape closes it and gives the keyboard back to the page.
+/// Hidden until opened; Escape closes it and returns the focus to the page.
 class FindBar : public QWidget {
     Q_OBJECT
 

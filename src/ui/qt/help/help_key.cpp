@@ -14,7 +14,7 @@ namespace {
 constexpr char const* topic_property = "help_topic";
 
 struct HelpPlace {
-    char const* name; // of a widget, or a window's title
+    char const* name; // of a widget, or the title of a window
     char const* address;
 };
 
@@ -34,7 +34,7 @@ constexpr std::array help_places{
     HelpPlace{"Warhost Simulation", "simulation.html#report"},
 };
 
-/// The page about the innermost part of a window that has one; about the shown screen where the part is on none.
+/// The page about the innermost part of a window that has one, otherwise the page about the screen that is shown.
 char const* address_of(QWidget const* part)
 {
     for (; part != nullptr; part = part->parentWidget()) {
@@ -60,7 +60,7 @@ HelpKey::HelpKey(OpenTopic open_topic, OpenPage open_page)
     qApp->installEventFilter(this);
 }
 
-/// Before the widgets, as some of them swallow every key.
+/// Filters the key before the widgets receive it: some of them accept every key.
 bool HelpKey::eventFilter(QObject* watched, QEvent* event)
 {
     auto* const widget = qobject_cast<QWidget*>(watched);

@@ -9,11 +9,11 @@ class QWidget;
 
 namespace warhost {
 
-/// The manual's topic of one widget, which comes before the page about the screen; 0: none.
+/// The topic of one widget, which takes precedence over the page about the screen; 0: none.
 void set_help_topic(QWidget& widget, int topic);
 
 /// While it exists, F1 opens the manual where it describes the widget, the screen or the dialog. Needs the application;
-/// the desktop's own dialogs are out of its reach.
+/// does not work in the desktop's own dialogs.
 class HelpKey : public QObject {
     Q_OBJECT
 

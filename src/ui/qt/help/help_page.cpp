@@ -32,7 +32,7 @@ constexpr int wheel_notch = 120;
 constexpr int margin = 28;
 constexpr int measure = 504; // about 70 characters
 
-// Addresses of pages that no file holds.
+// The scheme of pages that are not files.
 constexpr char const* notice_scheme = "notice";
 
 QString plain_page(QString const& title, QString const& text, QString const& more)
@@ -74,11 +74,11 @@ HelpPage::HelpPage(QString folder, QWidget* parent) : QTextBrowser(parent), fold
     setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     setLineWrapMode(FixedPixelWidth);
     setFrameShadow(Plain);
-    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn); // so that the room for a line is the same on each page
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn); // so that lines are equally wide on every page
     show_anew();
 }
 
-/// Of a line or a picture, in pixels.
+/// The width of a line or a picture, in pixels.
 int HelpPage::line_width() const
 {
     Scale const scale = scale_of(this);
@@ -93,7 +93,7 @@ void HelpPage::show_page(QString const& page, QString const& anchor)
     setSource(address, QTextDocument::HtmlResource);
 }
 
-/// Leaves a third of the view above the text, so that what it is about can be read.
+/// Leaves a third of the view above the text, so that its context is visible.
 void HelpPage::mark(int begin, int end)
 {
     select(begin, end);
@@ -102,7 +102,7 @@ void HelpPage::mark(int begin, int end)
 
 int HelpPage::last_position() const { return document()->characterCount() - 1; }
 
-/// The page may have become shorter.
+/// Positions beyond the end are clamped: the page may have become shorter.
 void HelpPage::select(int anchor, int position)
 {
     QTextCursor cursor{document()};
@@ -145,10 +145,10 @@ QVariant HelpPage::loadResource(int type, QUrl const& name)
     return type == QTextDocument::ImageResource ? picture(resource.toByteArray()) : resource;
 }
 
-/// With the margins.
+/// The line and both margins, in pixels.
 int HelpPage::page_width() const { return line_width() + 2 * scale_of(this).from_base(margin); }
 
-/// As wide as the lines: the page itself would scale it roughly.
+/// Scaled to the width of a line, because the page itself would scale it coarsely.
 QImage HelpPage::picture(QByteArray const& bytes) const
 {
     QImage const whole = QImage::fromData(bytes);
@@ -196,11 +196,11 @@ void HelpPage::wheelEvent(QWheelEvent* event)
     event->accept();
 }
 
-/// Colours and the widths of pictures are fixed when a page is read. The first line in sight stays the
-/// first, and what is selected selected.
+/// Reads the page again, because colours and the widths of pictures are fixed when a page is read. Keeps the first
+/// visible line and the selection.
 void HelpPage::show_anew()
 {
-    document()->documentLayout()->frameBoundingRect(document()->rootFrame()); // finishes what is being laid out
+    document()->documentLayout()->frameBoundingRect(document()->rootFrame()); // completes a pending layout
     QTextCursor const top = cursorForPosition({0, 0});
     int const first = top.position();
     int const above = cursorRect(top).top();

@@ -1,4 +1,4 @@
-// One page of the manual, or a plain page that says why there is none.
+// One page of the manual, or a plain page that states why there is none.
 #pragma once
 
 #include <QImage>
@@ -12,14 +12,14 @@ class HelpPage : public QTextBrowser {
 public:
     explicit HelpPage(QString folder, QWidget* parent = nullptr);
 
-    /// page: its file's name. anchor: empty for the top.
+    /// page: the name of its file. anchor: empty for the top.
     void show_page(QString const& page, QString const& anchor);
     /// Selects the text of the page between two positions and scrolls to it.
     void mark(int begin, int end);
     void show_missing_manual();
     void show_unknown_topic(int topic);
 
-    /// A step is a tenth of the size; the text stays between a half and three times the window's own.
+    /// A step is a tenth of the window's font size; the text stays between half and three times that size.
     void zoom(int steps);
     void zoom_to_normal();
 

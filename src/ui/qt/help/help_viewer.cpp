@@ -24,7 +24,7 @@ namespace warhost {
 
 namespace {
 
-// At the base font; a larger font makes the window larger, as far as the screen goes.
+// At the base font; a larger font makes the window larger, up to the size of the screen.
 constexpr QSize base_size{860, 680};
 constexpr int base_contents_width = 260;
 
@@ -78,7 +78,7 @@ HelpViewer::HelpViewer(QString const& folder, QWidget const* main_window)
     connect(page_, &QTextBrowser::sourceChanged, this, &HelpViewer::follow_page);
 }
 
-/// other: the window beside which this one is to stand, or this one.
+/// other: the window that this one is placed beside, or this one itself.
 void HelpViewer::arrange(QWidget const& other)
 {
     auto* const side = new QWidget;

@@ -19,17 +19,17 @@ class ContentsPane;
 class FindBar;
 class HelpPage;
 
-/// Where a window of the size, frame included, lies inside the room: at the right of the other window or at its left,
-/// and in the corner where it covers least of it when there is no room for that.
+/// The place in the room for a window of the given size, frame included: to the right of the other window, or to its
+/// left; without room for either, in the corner where it covers the least of the other window.
 QPoint place_beside(QRect const& other, QSize size, QRect const& room);
 
-/// Contents at the left, the page at the right. What is missing - the manual, a page, a topic - is told in the
-/// window. The program ends without waiting for it.
+/// Contents on the left, the page on the right. A missing manual, page or topic is reported in the window. The program
+/// ends without waiting for it.
 class HelpViewer : public QMainWindow {
     Q_OBJECT
 
 public:
-    /// folder: where contents.txt and the pages lie. main_window: the one not to cover, or none.
+    /// folder: of contents.txt and the pages. main_window: the window not to cover, or null.
     explicit HelpViewer(QString const& folder, QWidget const* main_window = nullptr);
 
     /// Shows the topic, or the contents page for 0, in front of the other windows.

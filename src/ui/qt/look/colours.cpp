@@ -52,7 +52,7 @@ Colours colours_of(QPalette const& palette)
     made.hair = toward_text(13, 16, 40);
     made.band = toward_text(5, 6, 6);
     made.stripe = made.high_contrast ? made.page : made.dark ? mixture(made.page, made.text, 7) : light_stripe;
-    // On the page and on a stripe, whichever asks for more.
+    // On the page or on a stripe, whichever requires more contrast.
     made.firm = contrasting_mixture(on_page(made.page, made.high_contrast ? 9 : 3.15), made.text, made.stripe, 3);
     made.button = made.dark ? mixture(made.page, made.text, 11) : mixture(made.page, made.field, 65);
     for (std::size_t Index = 0; Index < 2; ++Index) {

@@ -12,11 +12,11 @@ QColor mixture(QColor const& one, QColor const& other, int percent_of_other);
 /// From 1 (equal) to 21 (black on white), by the relative luminance of the two.
 double contrast_ratio(QColor const& one, QColor const& other);
 
-/// The mixture nearest to one whose contrast to the background is sufficient; other when none is.
+/// Of the mixtures with sufficient contrast to the background, the nearest to one; other if there is none.
 QColor contrasting_mixture(QColor const& one, QColor const& other, QColor const& background, double sufficient);
 
-/// The colour itself when its contrast to the background suffices, else the nearest of its mixtures with text, a
-/// colour that is known to be readable there, that does.
+/// The colour itself if its contrast to the background suffices, otherwise the nearest of its mixtures with text that
+/// does. text: a colour that is known to be readable there.
 QColor readable_colour(QColor const& colour, QColor const& background, QColor const& text);
 
 } // namespace warhost

@@ -54,7 +54,7 @@ Drawing drawing_of(QStyle::StandardPixmap which)
     }
 }
 
-/// What the lines of a sign stand on; returns their colour.
+/// Draws the background of a sign; returns the colour of its lines.
 QColor draw_ground(QPainter& painter, QStyle::StandardPixmap which, QIcon::Mode mode)
 {
     Colours const& of = colours();

@@ -1,4 +1,4 @@
-// Icons drawn in the palette's colours: lines in the text's, signs of messages in their own.
+// Icons drawn in the palette's colours: lines in that of the text, signs of messages in colours of their own.
 #pragma once
 
 #include <QIcon>
@@ -6,7 +6,7 @@
 
 namespace warhost {
 
-/// The icon, in the palette of the moment at which it is painted and sharp at any size; null for one not drawn here.
+/// The icon, painted in the palette of the moment and sharp at any size; null for one that is not drawn here.
 QIcon line_icon(QStyle::StandardPixmap which);
 
 } // namespace warhost

@@ -1,4 +1,4 @@
-// The shapes that tell the sides apart without colour.
+// The shapes that distinguish the sides without colour.
 #pragma once
 
 #include <QColor>
@@ -11,7 +11,7 @@ inline constexpr double mark_size = 7.5;
 inline constexpr double mark_left = 1; // what a diamond reaches beyond its room
 inline constexpr int mark_room = 15;   // of a mark before a text
 
-/// A square for Side A (Index 0), a diamond for Side B, as high as wide.
+/// A square for Side A (Index 0), a diamond for Side B; both as high as wide.
 void draw_side_mark(QPainter& painter, int Index, QRectF const& room, QColor const& colour);
 
 } // namespace warhost

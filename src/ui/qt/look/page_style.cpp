@@ -45,9 +45,9 @@ constexpr int message_sign = 32;
 constexpr int tool_icon = 16;
 constexpr int scroll_bar_width = 12;
 constexpr int arrow_width = 13;
-constexpr int text_margin = 3; // beside the two pixels that a box for text keeps by itself
+constexpr int text_margin = 3; // in addition to the two pixels that the toolkit keeps free in a text box
 
-/// The painter is as before when it ends.
+/// Restores the painter at its end.
 class Pen {
 public:
     Pen(QPainter& painter, QWidget const* widget, bool enabled)
@@ -81,7 +81,7 @@ public:
         painter_.drawRoundedRect(room.adjusted(half, half, -half, -half), length(corner), length(corner));
     }
 
-    /// A quiet outline whose lower edge is firm, as a well or a key has one.
+    /// A light outline with a darker lower edge, like that of a key.
     void raised_outline(QRectF const& room, double corner, QColor const& quiet, QColor const& firm)
     {
         outline(room, corner, quiet, line());
@@ -172,7 +172,7 @@ void draw_button(QStyleOption const& option, QPainter& painter, QWidget const* w
     else pen.raised_outline(room, button_corner, of.soft, of.firm);
 }
 
-/// A square or round room for a tick or a dot.
+/// The square of a check box or the circle of an option, with its tick or dot.
 void draw_indicator(QStyleOption const& option, QPainter& painter, QWidget const* widget, bool round)
 {
     Colours const& of = colours();
@@ -201,7 +201,7 @@ void draw_indicator(QStyleOption const& option, QPainter& painter, QWidget const
     pen.stroke({{at(0.24, 0.52), at(0.43, 0.71), at(0.77, 0.31)}}, of.text_on_strong, 1.8);
 }
 
-/// Of a tree: to the right while what is below it is hidden, else down.
+/// The arrow of a tree: to the right while the branch is closed, otherwise down.
 void draw_branch(QStyleOption const& option, QPainter& painter, QWidget const* widget)
 {
     if (!is_in(option, QStyle::State_Children)) return;
@@ -217,7 +217,7 @@ void draw_branch(QStyleOption const& option, QPainter& painter, QWidget const* w
                is_in(option, QStyle::State_Selected) ? of.text_on_strong : of.dim, 1.5);
 }
 
-/// An arrow that has nothing to offer is not among the option's parts.
+/// Without a list to open, the arrow is not among the option's parts.
 void draw_combo_box(QStyle const& style, QStyleOptionComplex const& option, QPainter& painter, QWidget const* widget)
 {
     Colours const& of = colours();
@@ -232,7 +232,7 @@ void draw_combo_box(QStyle const& style, QStyleOptionComplex const& option, QPai
                offers ? mixture(of.page, of.text, 70) : of.soft, 1.5);
 }
 
-/// Behind a scroll bar: what it scrolls.
+/// The background of a scroll bar: that of what it scrolls.
 QColor ground_of(QWidget const* bar, QPalette const& palette)
 {
     for (auto const* above = bar; above != nullptr; above = above->parentWidget()) {
@@ -283,7 +283,7 @@ QRect scroll_bar_part(QStyle const& style, QStyleOptionSlider const& bar, QStyle
     }
 }
 
-/// Of a bar without an end, a part that wanders to and fro by the clock.
+/// If the end is unknown, a part of the bar that moves to and fro by the clock.
 QRectF finished_part(QStyleOptionProgressBar const& bar)
 {
     QRectF part = bar.rect;
@@ -347,7 +347,7 @@ void PageStyle::drawPrimitive(PrimitiveElement element, QStyleOption const* opti
     case PE_IndicatorBranch: return draw_branch(*option, *painter, widget);
     case PE_FrameFocusRect: {
         if (is_in(*option, State_Item) && is_in(*option, State_Selected)) return; // the list has a ring
-        bool const tool = qobject_cast<QToolButton const*>(widget) != nullptr;    // whose own rectangle cuts the icon
+        bool const tool = qobject_cast<QToolButton const*>(widget) != nullptr; // its own rectangle would cut the icon
         return Pen{*painter, widget, true}.ring(tool ? widget->rect() : option->rect, field_corner);
     }
     case PE_Frame: {
@@ -394,7 +394,7 @@ void PageStyle::drawControl(ControlElement element, QStyleOption const* option, 
     case CE_RadioButton:
         if (auto const* const button = qstyleoption_cast<QStyleOptionButton const*>(option)) {
             QStyleOptionButton ringless = *button;
-            ringless.state.setFlag(State_HasFocus, false); // the base style asks its own focus rectangle
+            ringless.state.setFlag(State_HasFocus, false); // otherwise the base style draws its own ring
             QProxyStyle::drawControl(element, &ringless, painter, widget);
             if (!is_in(*option, State_HasFocus) || has_rings_above(widget)) return;
             auto const part = element == CE_CheckBox ? SE_CheckBoxFocusRect : SE_RadioButtonFocusRect;
@@ -465,7 +465,7 @@ QRect PageStyle::subElementRect(SubElement element, QStyleOption const* option, 
             int const wide = option->fontMetrics.size(Qt::TextShowMnemonic, button->text).width();
             text = alignedRect(option->direction, Qt::AlignLeft | Qt::AlignVCenter,
                                {wide, option->fontMetrics.height()}, text);
-            int const free = scale.from_base(4); // two of them the ring's
+            int const free = scale.from_base(4); // includes two for the ring
             return mark.united(text).adjusted(-free, -free, free, free);
         }
         break;

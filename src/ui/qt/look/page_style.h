@@ -1,4 +1,4 @@
-// The one style of all windows: flat boxes with quiet outlines, one strong button, a ring around what has the focus.
+// The style of all windows: flat boxes with light outlines, one strong button, a ring around the focused widget.
 #pragma once
 
 #include <QProxyStyle>
@@ -13,7 +13,7 @@ class PageStyle : public QProxyStyle {
     Q_OBJECT
 
 public:
-    /// base: the style that paints what this one leaves alone.
+    /// base: the style that paints everything else.
     explicit PageStyle(QString const& base = "fusion") : QProxyStyle(base) {}
 
     void polish(QWidget* widget) override;
@@ -39,13 +39,14 @@ public:
 /// A box without an outline, for the cells of a table.
 void make_cell(QLineEdit& box);
 
-/// The button to press next. In dialogs the default button is strong by itself.
+/// The button to press next. In dialogs the default button is strong without this.
 void set_strong(QPushButton& button, bool strong);
 
-/// Check boxes and options of this window get their rings from somebody else.
+/// Another widget draws the focus rings of the check boxes and options in this window.
 void leave_rings_to_others(QWidget& window);
 
-/// Gives a widget page_palette(), also after the user's palette has changed. The widget must be in its window already.
+/// Gives a widget page_palette(), now and after each change of the user's palette. The widget must already be in its
+/// window.
 void follow_page_palette(QWidget& widget);
 
 } // namespace warhost

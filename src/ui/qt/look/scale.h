@@ -25,8 +25,8 @@ public:
     double twips_per_pixel() const { return twips_per_pixel_; }
     int from_twips(double twips) const { return static_cast<int>(std::lround(twips / twips_per_pixel_)); }
     int from_base(double pixels) const { return from_twips(pixels * base_twips_per_pixel); }
-    /// The pixels from one height of a column to another, both in pixels of the base size. The edges are rounded each
-    /// by itself, so that columns of different parts end together.
+    /// The pixels from one height of a column to another, both in pixels of the base size. Each edge is rounded by
+    /// itself, so that columns of different parts end together.
     int span(double from, double to) const { return from_base(to) - from_base(from); }
     /// A line between cells, and an outline.
     int line() const { return std::max(1, from_base(1)); }
@@ -36,17 +36,17 @@ private:
     double twips_per_pixel_ = base_twips_per_pixel;
 };
 
-/// The font's size in pixels on the main screen; a fraction where the size is given in points.
+/// The font's size in pixels on the main screen; may be fractional if the size is given in points.
 double pixel_height(QFont const& font);
 
-/// How many times larger than at the base size a window of its own is drawn in its font; at least 1.
+/// The factor from the base size to that of a separate window drawn in this font; at least 1.
 double growth(QFont const& font);
 
-/// The scale of the window that a widget stands in, by its font; at least the base size.
+/// The scale of the widget's window, by its font; at least the base size.
 Scale scale_of(QWidget const* widget);
 
-/// The user's font at the size to use: not below the base, and otherwise not larger than what lets a window of the
-/// given size in twips fit into the room.
+/// The user's font at the size to use: at least the base size, and otherwise no larger than a window of the given size
+/// in twips can use without leaving the room.
 QFont fitting_font(QFont font, double width, double height, QSize room);
 
 } // namespace warhost

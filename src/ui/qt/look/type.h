@@ -6,7 +6,7 @@
 
 namespace warhost {
 
-/// pixels: at the base size, where the window's own font has 11.
+/// pixels: at the base size, where the window's font has 11.
 struct Type {
     double pixels;
     QFont::Weight weight;

@@ -15,7 +15,7 @@ namespace warhost {
 
 namespace {
 
-/// The path of the one army file that is dragged; empty when it is anything else.
+/// The path of the army file if exactly one is dragged; otherwise empty.
 QString army_path(QMimeData const& dragged)
 {
     auto const urls = dragged.urls();

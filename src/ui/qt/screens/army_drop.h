@@ -10,15 +10,15 @@ class QWidget;
 
 namespace warhost {
 
-/// Takes a file with the suffix ".Army" wherever it is dropped on the window, text boxes included; anything else is
-/// left to the widgets. The drag ends before load runs. Takes nothing while the window takes no input.
+/// Accepts a file with the suffix ".Army" dropped anywhere on the window, text boxes included; anything else is left to
+/// the widgets. The drag ends before load runs. Accepts nothing while the window accepts no input.
 class ArmyDrop : public QObject {
     Q_OBJECT
 
 public:
     using Load = std::function<void(std::string const& path)>;
 
-    /// window: shown already, so that it has a handle.
+    /// window: already shown, so that it has a handle.
     ArmyDrop(QWidget& window, Load load);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

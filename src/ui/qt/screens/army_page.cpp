@@ -50,7 +50,7 @@ constexpr int options_of(int category)
     return static_cast<int>(std::ranges::count(options, category, &Option::category));
 }
 
-/// Where the section of a category with so many rows ends.
+/// The end of a category's section with the given number of rows.
 constexpr int end_of(int top, int rows) { return top + CaptionFrame::contents_top + rows * row_height; }
 static_assert(end_of(pair_top, std::max(options_of(4), options_of(7))) == columns_end);
 
@@ -90,7 +90,7 @@ ArmyPage::ArmyPage(ArmyControls& controls, Reading const& level_reading, Scale c
     misc_panel_ = new MiscPanel{controls, scale, add_misc_row, &surface()};
 }
 
-/// The total ends where the values of the misc panel do.
+/// The right edge of the total is that of the values in the misc panel.
 QLayout* ArmyPage::top_line(Scale const& scale)
 {
     auto* const line = make_.row(4);
@@ -156,7 +156,7 @@ QLayout* ArmyPage::middle_column()
 QWidget* ArmyPage::units()
 {
     constexpr int table_top = units_top + CaptionFrame::contents_top;
-    constexpr int head = 17; // each height with the line below
+    constexpr int head = 17; // heights include the line below
     constexpr int row = 20;
     CaptionFrame* const frame = make_.frame(controls_.FrameUnits);
     auto* const contents = new QVBoxLayout{frame};
@@ -221,7 +221,7 @@ QWidget* ArmyPage::units()
     return frame;
 }
 
-/// An example stands in the first row as long as no row is used.
+/// The first row shows an example while no row is used.
 void ArmyPage::propose_units()
 {
     auto* const first = surface().findChild<EntryBox*>(to_qt(controls_.txtUnitType(0).name()));
@@ -310,7 +310,7 @@ QWidget* ArmyPage::experience(Reading const& level_reading)
     auto* const first = new QHBoxLayout;
     auto* const result = make_.value_box(controls_.cmbOpt(6), "Experience result", 0, 0);
     result->setParent(this);
-    result->hide(); // a file may fill it, but nobody sees it
+    result->hide(); // never visible, although a file may fill it
     auto* const level_label = make_.label(controls_.Label15);
     auto* const level = make_.value_box(controls_.cmbLevel, "Average troop level", 52, make_.pixels(field_height));
     level->entry().set_reading(level_reading);

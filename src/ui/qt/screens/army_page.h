@@ -1,4 +1,4 @@
-// The army screen: one line along the top, the unit rows and the categories below it at the left, the misc panel at
+// The army screen: one line along the top; below it the unit rows and the categories on the left, the misc panel on
 // the right.
 #pragma once
 
@@ -20,8 +20,8 @@ class ArmyPage : public ScreenArea {
 public:
     using Reading = std::function<QString(QString const&)>;
 
-    /// level_reading: what a text counts as for the troop level, in digits. content: the part of the screen that is
-    /// laid out, in pixels. For the other two see MiscPanel.
+    /// level_reading: the number that a text counts as for the troop level, in digits. content: the part of the screen
+    /// that is laid out, in pixels. For the other two see MiscPanel.
     ArmyPage(ArmyControls& controls, Reading const& level_reading, Scale const& scale, QSize content,
              std::function<bool()> const& add_misc_row, QWidget* parent);
 

@@ -5,16 +5,16 @@
 
 namespace warhost {
 
-/// Follows the fields as they are shown; whoever tells it of an event then shows what has become of it.
+/// Tracks the fields as they are shown; the caller that reports an event then shows the new state.
 class BattleSigns {
 public:
-    /// The button that a due reroll waits for.
+    /// The button to press for a due reroll.
     enum class Reroll { none, casualty_roll, share };
 
     Reroll reroll() const { return reroll_; }
-    /// The battle on the screen is a simulation's last.
+    /// The battle on the screen is the last of a simulation.
     bool simulated() const { return simulated_; }
-    /// Index: 0 for Side A, 1 for Side B. The losses on the screen are taken off the army already.
+    /// Index: 0 for Side A, 1 for Side B. The losses on the screen have already been subtracted from the army.
     bool applied(int Index) const { return applied_.at(static_cast<std::size_t>(Index)); }
 
     void result_set() { begin_anew(); }
@@ -23,7 +23,7 @@ public:
     void casualties_applied(int Index) { applied_.at(static_cast<std::size_t>(Index)) = true; }
     void battles_simulated() { simulated_ = true; }
 
-    /// A box that asks for a reroll has been checked by a natural 1 or 20.
+    /// A natural 1 or 20 has checked a box that requires a reroll.
     void reroll_asked() { reroll_ = Reroll::casualty_roll; }
     void boxes_unchecked() { reroll_ = Reroll::none; }
 

@@ -34,7 +34,7 @@ constexpr int lines_width = 2 * column_width + column_gap;
 constexpr int number_width = 56;
 constexpr int result_width = 96;
 constexpr int result_height = 30;
-constexpr int label_width = 128; // of the lines whose boxes stand one under the other
+constexpr int label_width = 128; // in the lines whose boxes are aligned
 constexpr int box_width = 44;
 constexpr int roll_width = 48;
 constexpr int range_end = 189; // before the button that rolls inside it
@@ -156,7 +156,7 @@ QWidget* CombatPage::battle_roll()
 
 QLayout* CombatPage::result(int Index)
 {
-    constexpr int digits_right = 2; // beside the margin that every box has
+    constexpr int digits_right = 2; // in addition to the margin of every box
     auto* const line = make_.row(0);
     auto* const caption = make_.label(controls_.Label(8 + Index));
     EntryBox* const box = make_.number_box(controls_.txtResult(Index), spoken_side(Index) + ", result", result_width);
@@ -189,7 +189,7 @@ QWidget* CombatPage::casualties()
         column->addWidget(holder);
     };
     add(loser_line(), first_top, victor_roll_top);
-    // What is below the boxes takes up the rounding of both heights.
+    // The space below the boxes absorbs the rounding of both heights.
     auto const below_boxes = [&](int from, int to) { return make_.span(from, to) - make_.pixels(field_height); };
     add(victor_roll_line(), victor_roll_top, victor_share_top, below_boxes(victor_roll_top, victor_share_top));
     add(victor_percent_line(), victor_share_top, sides_top, below_boxes(victor_share_top, sides_top));
@@ -294,7 +294,7 @@ void CombatPage::show_army_names(std::array<QString, 2> const& names)
 {
     for (std::size_t k = 0; k < names.size(); ++k) {
         QString const& name = names.at(k);
-        if (sides_.at(k)->note() != name) signs_.loss_set(static_cast<int>(k)); // of another army nothing was taken off
+        if (sides_.at(k)->note() != name) signs_.loss_set(static_cast<int>(k)); // a new army
         names_.at(k)->set_whole_text(name.isEmpty() ? spoken_side(static_cast<int>(k)) : name);
         totals_.at(k)->set_description(name);
         sides_.at(k)->set_note(name);
@@ -309,7 +309,7 @@ void CombatPage::follow_battle()
 {
     auto const when_shown = [this](Control& field, auto tell) {
         field.show = [this, tell, before = field.show] {
-            if (before) before(); // a button shows nothing by itself
+            if (before) before(); // empty for a button, which shows nothing
             tell(signs_);
             show_signs();
         };
@@ -333,7 +333,7 @@ void CombatPage::follow_battle()
     also_show(controls_.lblWinBy, [this] { band_->show_winner(); });
 }
 
-/// What a user ticks, the box shows before its field does.
+/// When the user ticks a box, the box changes before its field does.
 void CombatPage::follow_box(CheckBox& field, QCheckBox* box)
 {
     field.show = [this, &field, box, before = field.show] {
@@ -348,7 +348,7 @@ void CombatPage::follow_box(CheckBox& field, QCheckBox* box)
 void CombatPage::show_signs()
 {
     using enum BattleSigns::Reroll;
-    // A tie has no victor, and a roll would change nothing.
+    // A tie has no victor, and a reroll would change nothing.
     auto const due = shown_winner(controls_) == tie ? none : signs_.reroll();
     set_strong(*roll_all_, due == none);
     set_strong(*roll_casualty_, due == casualty_roll);

@@ -26,7 +26,7 @@ public:
     /// Index: 0 for Side A, 1 for Side B. Empty for an army without a name.
     void show_army_names(std::array<QString, 2> const& names);
 
-    /// Gives the keyboard to the button that begins a battle.
+    /// Moves the focus to the button that begins a battle.
     void focus_first_step();
 
 private:

@@ -19,8 +19,8 @@ namespace warhost {
 namespace {
 
 // Pixels of the base size.
-constexpr int inside = 3;      // from the edge to a pane, for the ring
-constexpr int text_margin = 5; // from a pane, also below the label
+constexpr int inside = 3;      // from the edge to a pane, for the focus ring
+constexpr int text_margin = 5; // from the edge of a pane, also below the label
 constexpr int label_height = 16;
 constexpr int label_below_top = 6;
 constexpr int label_below_division = 11;
@@ -57,7 +57,7 @@ DescriptionSheet::DescriptionSheet(CombatControls& controls, WidgetMaker& make, 
         text->setFrameShape(QFrame::NoFrame);
         text->setFont(make.font(type::reading));
         QFont placeholder = make.font(type::plain);
-        // The size is set to what it is, so that the text's larger one is not inherited.
+        // Setting the size to its own value keeps it from inheriting the larger size of the text.
         if (placeholder.pixelSize() > 0) placeholder.setPixelSize(placeholder.pixelSize());
         else placeholder.setPointSizeF(placeholder.pointSizeF());
         text->viewport()->setFont(placeholder);

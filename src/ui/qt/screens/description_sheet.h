@@ -1,4 +1,4 @@
-// The sheet with the two accounts of a battle.
+// The sheet with the two descriptions of a battle.
 #pragma once
 
 #include "ui/combat_controls.h"
@@ -13,12 +13,12 @@ namespace warhost {
 
 class WidgetMaker;
 
-/// Its upper edge lies on the line of its section's head.
+/// Its upper edge is on the line of its section's head.
 class DescriptionSheet : public QWidget {
     Q_OBJECT
 
 public:
-    /// top, division, end: heights of the sheet's edges and of the line between the accounts, in pixels of the base
+    /// top, division, end: heights of the sheet's edges and of the line between the descriptions, in pixels of the base
     /// size.
     DescriptionSheet(CombatControls& controls, WidgetMaker& make, double top, double division, double end);
 

@@ -24,7 +24,7 @@ namespace warhost {
 
 namespace {
 
-/// Neighbouring rows meet: each edge is rounded by itself.
+/// Each edge is rounded by itself, so that neighbouring rows touch.
 QRect geometry_of(Place const& place, Scale const& scale)
 {
     QPoint const top_left{scale.from_twips(place.Left), scale.from_twips(place.Top)};
@@ -43,7 +43,7 @@ MiscPanel::MiscPanel(ArmyControls& controls, Scale const& scale, std::function<b
     bind(controls.FrameMisc, *this);
 }
 
-/// Behind the rows, over the whole width.
+/// The stripes behind the rows, over the whole width.
 void MiscPanel::paintEvent(QPaintEvent* event)
 {
     Colours const& of = colours();
@@ -114,7 +114,7 @@ void MiscPanel::show_ticked(Row const& row) const
     fit_caption(row);
 }
 
-/// A caption that would run under the value is cut short; the tool tip has it whole.
+/// A caption that would overlap the value is shortened; the tool tip shows all of it.
 void MiscPanel::fit_caption(Row const& row) const
 {
     QStyleOptionButton option;

@@ -14,13 +14,13 @@ namespace warhost {
 
 class ValueBox;
 
-/// Rows stand where the fields say; they do not move with the panel's size. A row gets its widgets when the panel is
-/// first tall enough to show it.
+/// The fields determine the positions of the rows, which do not depend on the size of the panel. A row gets its widgets
+/// when the panel is first tall enough to show it.
 class MiscPanel : public CaptionFrame {
     Q_OBJECT
 
 public:
-    /// add_row makes the list's next row; false when there is none.
+    /// add_row makes the next row of the list; it returns false if there is none.
     MiscPanel(ArmyControls& controls, Scale const& scale, std::function<bool()> add_row, QWidget* parent);
 
 protected:

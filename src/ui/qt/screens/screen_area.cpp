@@ -9,16 +9,16 @@ ScreenArea::ScreenArea(QWidget* parent) : QScrollArea(parent)
     setFrameShape(NoFrame);
     setFocusPolicy(Qt::NoFocus);
     setWidget(new QWidget);
-    // The tab strip's page shows through.
+    // Transparent: the page of the tab strip is the background.
     widget()->setAutoFillBackground(false);
     viewport()->setAutoFillBackground(false);
-    // Also where the Tab key had no part in it.
+    // Also when something other than the Tab key moved the focus.
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
         if (now != nullptr && isAncestorOf(now)) show_whole(*now);
     });
 }
 
-/// The toolkit would be content with the place of the cursor.
+/// Makes the whole widget visible; the toolkit would only ensure this for its cursor.
 void ScreenArea::show_whole(QWidget const& at)
 {
     constexpr int around = 4;
@@ -26,7 +26,7 @@ void ScreenArea::show_whole(QWidget const& at)
     ensureVisible(room.center().x(), room.center().y(), room.width() / 2 + around, room.height() / 2 + around);
 }
 
-/// Without the scrolling of QScrollArea: what has got the focus is in sight already.
+/// Skips the scrolling of QScrollArea: the focused widget is already visible.
 bool ScreenArea::focusNextPrevChild(bool next)
 {
     return QWidget::focusNextPrevChild(next); // NOLINT(bugprone-parent-virtual-call)

@@ -1,4 +1,4 @@
-// One of the two screens: a viewport over contents that keep their size and places.
+// One of the two screens: a viewport over contents of fixed size and position.
 #pragma once
 
 #include <QScrollArea>
@@ -11,11 +11,11 @@ class ScreenArea : public QScrollArea {
 public:
     explicit ScreenArea(QWidget* parent);
 
-    /// What lies in the viewport; everything on the screen is a child of it.
+    /// The contents of the viewport; everything on the screen is a child of it.
     QWidget& surface() const { return *widget(); }
 
-    /// room: the viewport's place. content: the screen's whole size; what the room does not show is scrolled to when
-    /// `scrolls`, else out of sight.
+    /// room: the place of the viewport. content: the whole size of the screen. What does not fit in the room can be
+    /// scrolled to if `scrolls`, and is otherwise out of sight.
     void place(QRect const& room, QSize content, bool scrolls);
 
 protected:

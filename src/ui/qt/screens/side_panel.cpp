@@ -20,7 +20,7 @@ namespace {
 
 // Pixels of the base size.
 constexpr int number_width = 60;
-constexpr int head_height = 18; // of the table, with the line below, as the rows
+constexpr int head_height = 18; // of the table; includes the line below, like the rows
 constexpr int row_height = 19;
 constexpr int above_foot = 6;
 constexpr int button_width = 124;

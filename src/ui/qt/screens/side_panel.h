@@ -1,4 +1,4 @@
-// The casualties of one side: its unit rows, what share it loses, and the button that takes the losses off.
+// The casualties of one side: its unit rows, the percentage it loses, and the button that applies the losses.
 #pragma once
 
 #include "ui/combat_controls.h"

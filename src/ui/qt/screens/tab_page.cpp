@@ -59,7 +59,7 @@ void TabPage::paint_tab(QPainter& painter, int place) const
     QColor const own = marked ? of.side.at(static_cast<std::size_t>(place)) : of.ring;
     QRectF const tab = tabRect(place);
     double const line = scale.line();
-    if (chosen) { // open below, where the page continues it
+    if (chosen) { // without a lower edge, because the page continues it
         painter.save();
         painter.setClipRect(tab);
         QRectF const shape = tab.adjusted(line / 2, line / 2, -line / 2, length(corner) * 2);
@@ -118,7 +118,7 @@ void TabPage::set_hovered(int place)
     update(0, 0, width(), tab_height_);
 }
 
-/// A wheel that passes over the strip on its way elsewhere changes no tab.
+/// Ignored: scrolling over the strip must not change the tab.
 void TabPage::wheelEvent(QWheelEvent* event) { event->ignore(); }
 
 void PageGround::paintEvent(QPaintEvent* event)

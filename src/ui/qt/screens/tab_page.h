@@ -1,12 +1,12 @@
-// The strip of tabs; the pages stand elsewhere.
+// The strip of tabs; the pages are elsewhere.
 #pragma once
 
 #include <QTabBar>
 
 namespace warhost {
 
-/// The strip keeps its height whatever the widget's. A side's tab carries the side's mark. Only the left button chooses
-/// a tab; the wheel does not.
+/// The strip keeps its height whatever the height of the widget. A side's tab shows the mark of the side. Only the left
+/// button selects a tab; the wheel does not.
 class TabPage : public QTabBar {
     Q_OBJECT
 
@@ -30,12 +30,12 @@ private:
     int hovered_ = -1;
 };
 
-/// What the tabs stand on: their strip above, the page below.
+/// The background of the tabs: their strip above, the page below.
 class PageGround : public QWidget {
     Q_OBJECT
 
 public:
-    /// strip_height: with the line that ends it, in pixels of the base size.
+    /// strip_height: includes the line below it, in pixels of the base size.
     explicit PageGround(int strip_height) : strip_height_(strip_height) {}
 
 protected:

@@ -31,7 +31,7 @@ namespace warhost {
 
 namespace {
 
-constexpr double created_width = 12840; // twips, as the heights and margins below
+constexpr double created_width = 12840; // twips, like the heights and margins below
 constexpr double created_height = 9600;
 // Pixels of the base size.
 constexpr int tab_height = 22;
@@ -52,7 +52,7 @@ constexpr std::array<MenuHandler, 2> help_handlers{
 };
 static_assert(file_handlers.size() == file_menu.size() && help_handlers.size() == help_menu.size());
 
-/// Of a screen, when the window stands in its created size: two margins are kept free at the right and below.
+/// The size of a screen at the window's created size, without the space kept free on the right and below.
 QSize content_size(Frame const& frame, Scale const& scale)
 {
     constexpr double margin = 60;
@@ -123,7 +123,7 @@ void Window::make_menus()
 
 void Window::fit_to_screen()
 {
-    constexpr QSize window_frame{8, 40}; // about what the desktop draws around a window, before it has drawn any
+    constexpr QSize window_frame{8, 40}; // an estimate: the window has no frame yet
     QSize const largest = screen()->availableSize() - window_frame;
     QSize const room = largest - QSize{0, menuBar()->sizeHint().height()};
     QFont const font = fitting_font(QApplication::font(), created_width, created_height, room);
@@ -201,7 +201,7 @@ void Window::show_army_names()
     combat_->show_army_names({beginning_of(form_.ArmyA.Name), beginning_of(form_.ArmyB.Name)});
 }
 
-/// Where the screens scroll, a frame ends at margins, in pixels of the base size, before the client area does.
+/// The place of a frame. If the screens scroll, it ends margins, in pixels of the base size, before the client area.
 QRect Window::place_of(Frame const& frame, int right_margin, int lower_margin) const
 {
     auto const& box = frame.box();
@@ -220,7 +220,7 @@ void Window::place_tab_strip()
     tabs_->update();
 }
 
-/// What scrolls passes below the strip, whose line the combat screen would cover.
+/// A screen that scrolls begins below the tab strip, so that it does not cover the strip's line.
 void Window::place_screen(Frame const& frame, ScreenArea& screen)
 {
     auto const& box = frame.box();
@@ -237,7 +237,7 @@ void Window::place_misc_panel()
         QRect{{scale_.from_twips(box.Left), scale_.from_twips(box.Top)}, scale_.from_twips(box.Width, box.Height)});
 }
 
-/// The screens keep their created size where they scroll, whatever the window's.
+/// Screens that scroll keep their created size whatever the size of the window.
 void Window::follow_size()
 {
     QSize size = client_->size();
@@ -288,7 +288,7 @@ void Window::changeEvent(QEvent* event)
 void Window::closeEvent(QCloseEvent* event)
 {
     if (waits_for_disk()) {
-        close_later_.start(put_off); // the user must see how a save ends
+        close_later_.start(put_off); // the user must see the result of a save
         return event->ignore();
     }
     if (!confirms_quit()) return event->ignore();
@@ -296,12 +296,12 @@ void Window::closeEvent(QCloseEvent* event)
     for (QWidget* const other : QApplication::topLevelWidgets()) {
         if (other != this && other->isVisible()) other->close(); // an open manual would keep the program running
     }
-    if (desktop_.simulates()) desktop_.end_program(); // the rest of a long run would keep it running too
+    if (desktop_.simulates()) desktop_.end_program(); // the rest of a long run would also keep it running
 }
 
 bool Window::waits_for_disk() const { return !isEnabled() && !desktop_.simulates(); }
 
-/// A second request while the question is open is refused, and none is asked about after a Yes.
+/// A second request while the question is open is rejected; after a Yes there is no further question.
 bool Window::confirms_quit()
 {
     if (quits_ || asks_to_quit_) return quits_;
@@ -316,7 +316,7 @@ bool Window::session_may_end(bool may_ask)
     if (waits_for_disk()) return false;
     if (!may_ask) return true;
     if (!confirms_quit()) return false;
-    close_later_.start(0); // the session manager gets its answer first
+    close_later_.start(0); // after the session manager has its answer
     return true;
 }
 

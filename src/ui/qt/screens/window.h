@@ -16,8 +16,8 @@ class QtDesktop;
 class ScreenArea;
 class TabPage;
 
-/// Loads the form and shows it. The font and the scale are the user's, within what the screen can hold; on a screen
-/// that cannot hold the base size the two screens scroll. The form must not be used once the window is gone.
+/// Loads the form and shows it. Font and scale are the user's, as far as they fit on the display; on a display too
+/// small for the base size, the two screens scroll. The form must not be used once the window is gone.
 class Window : public QMainWindow {
     Q_OBJECT
 
@@ -25,8 +25,9 @@ public:
     Window(Main& form, QtDesktop& desktop);
     ~Window() override;
 
-    /// Asks as for any other request to close the window, where it may ask at all; after a Yes the window closes from
-    /// the event loop, without asking again. False, also while a file is read or written, when the session must go on.
+    /// Asks the same question as any other request to close the window, if it may ask at all. After a Yes the window
+    /// closes from the event loop without asking again. False if the session must continue: after a No, and while a
+    /// file is being read or written.
     [[nodiscard]] bool session_may_end(bool may_ask);
 
 protected:
@@ -57,16 +58,16 @@ private:
     Main& form_;
     QtDesktop& desktop_;
     Scale scale_;
-    bool scrolls_ = false;      // the screen cannot hold the base size
+    bool scrolls_ = false;      // the display is too small for the base size
     bool asks_to_quit_ = false; // the question is open
     bool quits_ = false;        // the answer was Yes
     QTimer close_later_;
-    QSize extra_{0, 0}; // what the scroll bars take from the client area
+    QSize extra_{0, 0}; // the part of the client area that the scroll bars take
     QWidget* client_;
     TabPage* tabs_ = nullptr;
     ArmyPage* army_ = nullptr;
-    ArmyDrop* drop_ = nullptr;     // made when the window is first shown, as it then has a handle
-    CombatPage* combat_ = nullptr; // made when it is first shown, not to slow the start
+    ArmyDrop* drop_ = nullptr;     // made when the window is first shown, because it then has a handle
+    CombatPage* combat_ = nullptr; // made when it is first shown, for a faster start
 };
 
 } // namespace warhost

@@ -80,7 +80,7 @@ void WinnerBand::show_winner()
     announcement_.start(0);
 }
 
-/// Screen readers hear the whole line, once.
+/// Announces the whole line to screen readers, once.
 void WinnerBand::announce()
 {
     if (!shown_winner(controls_)) return;

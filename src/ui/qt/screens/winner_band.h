@@ -1,4 +1,4 @@
-// The line that says who has won, readable from across a table.
+// The line that shows who has won, readable from across a table.
 #pragma once
 
 #include "battle/battle_state.h"
@@ -18,7 +18,7 @@ namespace warhost {
 class ElidedLabel;
 class WidgetMaker;
 
-/// Who has won the battle on the screen; nobody before the first result.
+/// The winner of the battle on the screen; none before the first result.
 std::optional<BattleWinner> shown_winner(CombatControls const& controls);
 
 class WinnerBand : public QWidget {
@@ -45,7 +45,7 @@ private:
     std::array<QLabel*, 3> words_;
     ElidedLabel* name_;
     std::array<QString, 2> names_;
-    QTimer announcement_; // once all fields of a roll have been shown
+    QTimer announcement_; // after all fields of a roll have been shown
 };
 
 } // namespace warhost

@@ -17,19 +17,19 @@ namespace warhost {
 
 namespace {
 
-/// An equal text is left alone: so the cursor keeps its place while the user types.
+/// Leaves an equal text alone, so that the cursor keeps its place while the user types.
 void show_text(QLineEdit& box, std::string const& text)
 {
     QString const wanted = to_qt(text);
     if (box.text() == wanted) return;
     box.setText(wanted);
-    if (!box.hasFocus()) box.setCursorPosition(0); // a long text shows its beginning
+    if (!box.hasFocus()) box.setCursorPosition(0); // shows the beginning of a long text
 }
 
 void bind_text(TextBox& field, QLineEdit& box)
 {
     box.setMaxLength(longest_text);
-    // Assistive technology sets a text without a key; what the form shows comes back equal.
+    // textChanged, because assistive technology sets a text without a key; a text that the form shows comes back equal.
     QObject::connect(&box, &QLineEdit::textChanged, &box, [&](QString const& now) {
         if (now == to_qt(field.text())) return;
         if (takes_input(box)) field.set_text(now.toStdString());
@@ -43,8 +43,8 @@ void bind_text(TextBox& field, QLineEdit& box)
 
 bool takes_input(QWidget const& widget)
 {
-    // A dialog of the desktop's own is no widget, but it has a window. An input method commits its text to the widget
-    // that is about to lose the focus to such a dialog.
+    // A dialog of the desktop is not a widget, but it has a window. An input method commits its text to the widget that
+    // is about to lose the focus to such a dialog.
     bool const is_in_reach = QGuiApplication::modalWindow() == nullptr || widget.hasFocus();
     return widget.isVisible() && widget.isEnabled() && is_in_reach;
 }

@@ -1,4 +1,4 @@
-// A section of a screen: a caption on a line, and what belongs to it below.
+// A section of a screen: a caption on a line, and the contents below it.
 #pragma once
 
 #include <QGroupBox>
@@ -8,7 +8,7 @@
 
 namespace warhost {
 
-/// Paints its head itself. A layout in it begins at the frame's top, so that something may stand in the head too.
+/// Paints its head itself. Its layout begins at the top of the frame, so that the head can contain widgets.
 class CaptionFrame : public QGroupBox {
     Q_OBJECT
 
@@ -19,17 +19,17 @@ public:
 
     using QGroupBox::QGroupBox;
 
-    /// Writes the caption in the side's colour behind its mark. Index: 0 for Side A, 1 for Side B.
+    /// Shows the side's mark before the caption, and both in the side's colour. Index: 0 for Side A, 1 for Side B.
     void set_side(int Index);
 
-    /// A note behind the caption, cut short where there is no room; the tool tip then has it whole.
+    /// A note after the caption, shortened if there is no room; the tool tip then shows all of it.
     void set_note(QString const& note);
     QString const& note() const { return note_; }
 
-    /// A hint at the right end of the head; empty for none. Screen readers hear it as the frame's description.
+    /// A hint at the right end of the head; empty for none. Screen readers get it as the frame's description.
     void set_hint(QString const& hint);
 
-    /// pixels: at the right end of the head, taken by a box there.
+    /// pixels: the width at the right end of the head that a box there occupies.
     void keep_free(int pixels);
 
     /// The font in which the caption fits.

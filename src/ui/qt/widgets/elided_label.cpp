@@ -10,7 +10,7 @@ void tell_whole(QWidget& widget, QString const& text)
 {
     if (widget.toolTip() == to_tooltip(text)) return;
     widget.setToolTip(to_tooltip(text));
-    widget.setAccessibleDescription(text); // a tool tip has markup
+    widget.setAccessibleDescription(text); // without the markup of the tool tip
 }
 
 ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent)

@@ -1,11 +1,11 @@
-// A label for a text of any length: cut short where there is no room, and whole as its tool tip then.
+// A label for a text of any length: shortened if there is no room; the tool tip then shows all of it.
 #pragma once
 
 #include <QLabel>
 
 namespace warhost {
 
-/// Tells the whole of a text that a widget shows cut short, as its tool tip and to screen readers; empty for none.
+/// Sets the full text of a widget that shows it shortened, as its tool tip and for screen readers; empty for none.
 void tell_whole(QWidget& widget, QString const& text);
 
 class ElidedLabel : public QLabel {

@@ -64,7 +64,7 @@ QRect EntryBox::room() const
 
 bool EntryBox::is_cut() const { return fontMetrics().horizontalAdvance(text()) > room().width(); }
 
-/// What is not shown is fitted when it is.
+/// A box that is not visible is fitted when it is shown.
 void EntryBox::fit()
 {
     if (!isVisible()) return;
@@ -78,7 +78,7 @@ void EntryBox::fit_number()
     QFont const own = window()->font();
     QFont chosen = in_type(own, type_);
     auto const fits = [&](QFont const& font) {
-        return text().isEmpty() || QFontMetrics{font}.horizontalAdvance(text()) < room().width(); // then the cursor
+        return text().isEmpty() || QFontMetrics{font}.horizontalAdvance(text()) < room().width(); // with the cursor
     };
     for (double const size : smaller_sizes) {
         if (fits(chosen)) break;
@@ -87,7 +87,7 @@ void EntryBox::fit_number()
     if (font() != chosen) setFont(chosen);
 }
 
-/// Signs and the blanks around a number are no part of what it says.
+/// Ignores a sign and the blanks around a number in the comparison.
 void EntryBox::mark_reading()
 {
     if (!reading_) return;
@@ -104,7 +104,7 @@ void EntryBox::mark_reading()
 
 void EntryBox::describe()
 {
-    QWidget* const heard = focusProxy() != nullptr ? focusProxy() : this; // which has the focus
+    QWidget* const heard = focusProxy() != nullptr ? focusProxy() : this; // the widget that has the focus
     bool const both = !description_.isEmpty() && !counts_as_.isEmpty();
     heard->setAccessibleDescription(description_ + (both ? ". " : "") + counts_as_);
 }

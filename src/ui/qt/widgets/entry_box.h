@@ -1,5 +1,5 @@
-// A box for a name or a number: shows how a long name begins, fits a long number, and marks a text that counts as
-// something else than it says.
+// A box for a name or a number: shows the beginning of a long name, fits a long number, and marks a text that counts
+// as a different number.
 #pragma once
 
 #include "ui/qt/look/type.h"
@@ -18,10 +18,10 @@ public:
 
     explicit EntryBox(Holds holds, QWidget* parent = nullptr);
 
-    /// What the text is written in. A number that is too wide for the box is written regular and smaller.
+    /// The size and weight of the text. A number that is too wide for the box is shown smaller and in regular weight.
     void set_type(Type type);
 
-    /// What a screen reader says of a number beside its name.
+    /// What a screen reader announces about a number in addition to its name.
     void set_description(QString const& description);
 
     /// reading: the number that a text counts as, in digits. A text that is not that number is marked.
@@ -47,7 +47,7 @@ private:
     Type type_ = type::plain;
     std::function<QString(QString const&)> reading_;
     QString description_;
-    QString counts_as_; // empty when the text is what it counts as
+    QString counts_as_; // empty if the text counts as itself
 };
 
 } // namespace warhost

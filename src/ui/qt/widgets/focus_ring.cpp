@@ -30,7 +30,7 @@ void FocusRing::follow(QWidget* focused)
     place();
 }
 
-/// What the target stands in may be scrolled.
+/// Also follows an ancestor of the target that is scrolled.
 void FocusRing::watch(bool on)
 {
     for (QWidget* at = target_; at != nullptr && at != parentWidget(); at = at->parentWidget()) {

@@ -1,4 +1,4 @@
-// The ring around a check box or an option, which has no room for it inside.
+// The focus ring around a check box or an option, which has no room for it inside.
 #pragma once
 
 #include <QPointer>
@@ -8,7 +8,7 @@ class QAbstractButton;
 
 namespace warhost {
 
-/// Lies above everything on a ground and follows the focus there. The mouse does not notice it.
+/// Lies above all widgets of a ground and follows the focus among them. It is transparent to the mouse.
 class FocusRing : public QWidget {
     Q_OBJECT
 

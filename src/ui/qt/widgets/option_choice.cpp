@@ -9,7 +9,7 @@ namespace warhost {
 
 OptionChoice::OptionChoice(QWidget* parent) : QRadioButton(parent)
 {
-    // Stays auto-exclusive in name, which makes it a radio button for screen readers; the group frees it.
+    // The button stays auto-exclusive, which makes it a radio button for screen readers; the group overrides this.
     auto* group = parent->findChild<QButtonGroup*>(QString{}, Qt::FindDirectChildrenOnly);
     if (group == nullptr) {
         group = new QButtonGroup{parent};

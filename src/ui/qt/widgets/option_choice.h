@@ -1,4 +1,4 @@
-// An option button whose group is kept by the form: none of a group may be selected.
+// An option button whose group is managed by the form: a group may have no option selected.
 #pragma once
 
 #include <QRadioButton>
@@ -7,15 +7,15 @@
 
 namespace warhost {
 
-/// The arrow keys select the neighbours in the same parent, in a circle. A group is one stop for the Tab key: its
-/// selected option, else its first.
+/// The arrow keys select the neighbours in the same parent and wrap around. A group is one stop for the Tab key: its
+/// selected option, or its first.
 class OptionChoice : public QRadioButton {
     Q_OBJECT
 
 public:
     explicit OptionChoice(QWidget* parent);
 
-    /// Shows the state that the form holds.
+    /// Shows the state in the form.
     void show_selected(bool selected);
 
 protected:

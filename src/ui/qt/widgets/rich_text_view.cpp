@@ -12,7 +12,7 @@ namespace warhost {
 
 void show_rich_text(QTextEdit& box, std::string const& document)
 {
-    box.setUndoRedoEnabled(false); // or every document ever shown would be kept
+    box.setUndoRedoEnabled(false); // otherwise every document ever shown would be kept
     QTextCursor cursor{box.document()};
     cursor.beginEditBlock();
     cursor.select(QTextCursor::Document);

@@ -1,4 +1,4 @@
-// The shape of a side, before a text of it.
+// The shape of a side, placed before a text about it.
 #pragma once
 
 #include <QWidget>

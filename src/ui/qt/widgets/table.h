@@ -9,7 +9,7 @@ namespace warhost {
 
 class DevicePixels;
 
-/// What a label covers is a head of a row or column. Everything else paints itself.
+/// Paints the cells of labels as heads of rows or columns. All other widgets paint themselves.
 class Table : public QWidget {
     Q_OBJECT
 

@@ -22,7 +22,7 @@ namespace {
 
 constexpr int page_of_places = 10;
 
-/// What a screen reader is told: the toolkit's own interface gives an editable box's text for its name.
+/// The interface for screen readers: the toolkit's own reports the text of an editable box as its name.
 class SpokenBox : public QAccessibleWidget {
 public:
     explicit SpokenBox(QComboBox& box) : QAccessibleWidget(&box, QAccessible::ComboBox), box_(box) {}
@@ -62,11 +62,11 @@ QAccessibleInterface* spoken_box(QString const&, QObject* object)
 
 } // namespace
 
-/// As setEditable does, but without making the popup, and a completer that would alter what is typed: many boxes, most
-/// of them never opened, must not slow the start.
+/// Like setEditable, but without creating the popup, and without a completer, which would alter the typed text. Most of
+/// the many boxes are never opened; they must not slow down the start.
 void ValueBox::put_line_edit()
 {
-    static QPointer<QCompleter> spare; // setLineEdit makes a completer where there is none
+    static QPointer<QCompleter> spare; // setLineEdit would create a completer if there were none
     if (spare.isNull()) spare = new QCompleter{QCoreApplication::instance()};
     entry_ = new EntryBox{EntryBox::Holds::number, this};
     entry_->setCompleter(spare);
@@ -80,10 +80,10 @@ ValueBox::ValueBox(ComboBox& field, QWidget* parent) : QComboBox(parent), field_
     static_cast<void>(installed);
     put_line_edit();
     setInsertPolicy(NoInsert);
-    // Leaving the box or pressing Enter chooses nothing, even when the typed text is in the list.
+    // Leaving the box or pressing Enter selects nothing, even if the typed text is in the list.
     disconnect(lineEdit(), &QLineEdit::returnPressed, this, nullptr);
     disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
-    setFocusPolicy(Qt::StrongFocus); // by default the wheel would focus the box, and then change it
+    setFocusPolicy(Qt::StrongFocus); // by default the wheel would focus the box and then change it
     connect(this, &QComboBox::activated, this, [this](int place) {
         if (takes_input(*this)) field_.choose(place);
     });
@@ -98,7 +98,7 @@ void ValueBox::showPopup()
     clear();
     addItems(proposals);
     setCurrentIndex(field_.listed_index());
-    setEditText(to_qt(field_.text())); // filling the list has put its first item there
+    setEditText(to_qt(field_.text())); // filling the list has set the text to its first item
     QComboBox::showPopup();
 }
 
@@ -136,7 +136,7 @@ void ValueBox::keyPressEvent(QKeyEvent* event)
 
 void ValueBox::wheelEvent(QWheelEvent* event)
 {
-    // A wheel that passes over the box on its way elsewhere changes nothing.
+    // Ignored: scrolling over the box must not change it.
     if (!hasFocus()) {
         event->ignore();
         return;

@@ -1,4 +1,4 @@
-// An editable box with a list of proposals that is read from its field when it is needed, not kept.
+// An editable box with a list of proposals, which is read from its field when needed and not stored.
 #pragma once
 
 #include "ui/fields.h"

@@ -106,7 +106,7 @@ QPushButton* WidgetMaker::button(Button& field, QString const& spoken, int width
 {
     auto* const made = interactive(new QPushButton{&screen_}, spoken);
     bind(field, *made);
-    made->setAutoDefault(true); // Enter presses the button that has the keyboard
+    made->setAutoDefault(true); // Enter presses the button that has the focus
     made->setFixedSize(pixels(width), pixels(height));
     return made;
 }

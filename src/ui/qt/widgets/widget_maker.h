@@ -23,10 +23,10 @@ class EntryBox;
 class OptionChoice;
 class ValueBox;
 
-/// Made in reading order, which becomes the order of the Tab key. All are children of the screen at once, so that
-/// they have its font and palette; the layout that they are put in may give them to another parent. spoken: the name by
-/// which a screen reader tells the widget from its neighbours. Lengths are in pixels of the base size; a width of 0 is
-/// left to the layout.
+/// Widgets are made in reading order, which becomes the order of the Tab key. Each is a child of the screen from the
+/// start, so that it has the screen's font and palette; its layout may later change its parent. spoken: the name by
+/// which a screen reader distinguishes the widget from its neighbours. Lengths are in pixels of the base size; a width
+/// of 0 is left to the layout.
 class WidgetMaker {
 public:
     WidgetMaker(QWidget& screen, Scale const& scale) : screen_(screen), scale_(scale) {}
@@ -39,7 +39,7 @@ public:
     QLabel* label(TextLabel& field, int width = 0, Type type = type::plain) const;
     EntryBox* name_box(TextBox& field, QString const& spoken, int width = 0);
     EntryBox* number_box(TextBox& field, QString const& spoken, int width = 0);
-    /// A table gives its cells their height.
+    /// The table determines the height of its cells.
     EntryBox* name_cell(TextBox& field, QString const& spoken);
     EntryBox* number_cell(TextBox& field, QString const& spoken);
     /// height: in pixels.
@@ -53,7 +53,7 @@ public:
 
     QHBoxLayout* row(int spacing) const;
 
-    /// Lets the Tab key follow the order of making.
+    /// Sets the order of the Tab key to the order of creation.
     void set_tab_order() const;
 
 private:
@@ -65,7 +65,7 @@ private:
     std::vector<QWidget*> order_;
 };
 
-/// Puts a box at the end of a line, beside the label that names it.
+/// Adds a label and the box that it names to the end of a line.
 void add_labelled(QHBoxLayout& line, QLabel* label, QWidget* box);
 
 } // namespace warhost
