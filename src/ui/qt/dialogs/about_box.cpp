@@ -40,7 +40,7 @@ QLabel* emblem()
     auto* const picIcon = label("picIcon");
     picIcon->setFixedSize(emblem_pixels, emblem_pixels);
     picIcon->setPixmap(QPixmap{":/icons/emblem.png"});
-    picIcon->setAccessibleName("The emblem of Warhost");
+    picIcon->setAccessibleName("Warhost emblem");
     return picIcon;
 }
 

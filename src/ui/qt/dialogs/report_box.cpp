@@ -38,7 +38,7 @@ ReportBox::ReportBox(Message const& report, Tally const& tally, Odds const& odds
     };
     auto* const result = text(report.text, "Report", type::reading);
     auto* const long_run = text(long_run_text(odds, format), "Exact odds", type::odds);
-    auto* const sample = text(sample_text(tally, format), "How far the sample may be off", type::plain);
+    auto* const sample = text(sample_text(tally, format), "Likely error of the sample", type::plain);
     set_ink(*sample, Ink::dim);
 
     auto* const top = new QHBoxLayout;

@@ -93,7 +93,7 @@ void FindBar::find(QTextDocument::FindFlags direction)
                                                                           : "Continued from the top of the page");
     } else {
         page_.setTextCursor(before);
-        message_->setText("Not in this page");
+        message_->setText("Not found on this page");
     }
 }
 

@@ -130,8 +130,8 @@ QString HelpPage::notice(QUrl const& name) const
     auto const contents =
         QUrl::fromLocalFile(QDir{folder_}.absoluteFilePath("contents.html")).toString(QUrl::FullyEncoded);
     return plain_page(
-        "No such topic", "There is no help topic " + QUrlQuery{name}.queryItemValue("number"),
-        QString{"<p>The manual starts at its <a href=\"%1\">contents</a>.</p>"}.arg(contents.toHtmlEscaped()));
+        "No such topic", "There is no help topic " + QUrlQuery{name}.queryItemValue("number") + ".",
+        QString{"<p>See the <a href=\"%1\">contents</a> of the manual.</p>"}.arg(contents.toHtmlEscaped()));
 }
 
 QVariant HelpPage::loadResource(int type, QUrl const& name)

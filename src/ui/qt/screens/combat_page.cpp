@@ -257,7 +257,7 @@ QLayout* CombatPage::victor_percent_line()
     holder->setLayout(words);
     holder->setFixedWidth(make_.pixels(range_end));
     line->addWidget(holder);
-    roll_share_ = make_.button(controls_.cmdRollVictorCas, "Roll inside the victor's range", roll_width, field_height);
+    roll_share_ = make_.button(controls_.cmdRollVictorCas, "Roll within the victor's range", roll_width, field_height);
     line->addWidget(roll_share_);
     auto* const share =
         make_.number_box(controls_.txtVictorCasPercent, "Victor's casualties, percent of the loser's", 40);
