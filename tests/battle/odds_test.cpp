@@ -107,7 +107,7 @@ TEST(Odds, depend_on_the_difference_alone_and_mirror_when_the_sides_change_place
     }
 }
 
-TEST(Simulation, comes_near_the_odds_in_every_ending)
+TEST(Simulation, approaches_the_odds_of_every_ending)
 {
     constexpr int battles = 4000000;
     std::uint64_t seed = 100;

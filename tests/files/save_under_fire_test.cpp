@@ -270,7 +270,7 @@ TEST(LoadUnderFire, never_waits_for_a_special_file)
     EXPECT_EQ(under_fire(Command::load, folder.path("x.Army"), "army", waits), refused);
 }
 
-TEST(UnderFire, the_cause_is_named)
+TEST(UnderFire, the_cause_is_reported)
 {
     TemporaryFolder const folder;
     std::pair<char const*, std::vector<int>> const causes[] = {

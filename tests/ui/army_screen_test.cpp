@@ -208,7 +208,7 @@ TEST(MiscPanel, counts_a_hundred_rows_and_shows_the_others)
     EXPECT_EQ(form.chkMisc(100).state() + form.chkMisc(103).state(), 1); // nobody keeps row 103's
 }
 
-TEST(Fields, raise_no_click_without_a_change_nor_when_deselected)
+TEST(Fields, raise_no_click_without_a_change_or_when_deselected)
 {
     int clicks = 0;
     CheckBox box{"box"};

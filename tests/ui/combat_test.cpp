@@ -122,7 +122,7 @@ TEST_F(CombatScreen, recomputes_what_depends_on_an_edited_field_and_nothing_else
     EXPECT_EQ(texts(form.txtLoses(0), form.txtLoses(8)), "50/16");
 }
 
-TEST(Apply, takes_the_losses_off_its_own_side_whichever_tab_is_selected)
+TEST(Apply, subtracts_the_losses_of_its_own_side_whichever_tab_is_selected)
 {
     for (int const tab : {1, 2, 3}) {
         Combat combat;

@@ -51,7 +51,7 @@ struct Fighter : Started<Generator> {
     }
 };
 
-TEST(SimulateCommand, leaves_what_as_many_battles_on_the_screen_leave)
+TEST(SimulateCommand, leaves_the_same_state_as_battles_on_the_screen)
 {
     // clang-format off
     Start const starts[] = {
@@ -74,7 +74,7 @@ TEST(SimulateCommand, leaves_what_as_many_battles_on_the_screen_leave)
     }
 }
 
-TEST(SimulateCommand, fights_as_many_battles_as_it_is_asked_for_in_batches)
+TEST(SimulateCommand, fights_the_requested_number_of_battles_in_batches)
 {
     Start const no_tie{25, 0, 0, 0, 0, 0, 0, 0};
     Fighter fighter{no_tie, 8}, last{no_tie, 8};

@@ -37,7 +37,7 @@ void answer_next_box(std::function<void(QWidget& box)> const& answer)
     QTimer::singleShot(0, [=] { answer(*QApplication::activeModalWidget()); });
 }
 
-TEST(Dialogs, keep_the_order_of_their_buttons_and_do_no_harm_on_escape)
+TEST(Dialogs, keep_the_order_of_their_buttons_and_are_harmless_on_escape)
 {
     QtDesktop desktop;
     std::tuple<Buttons, Answer, Answer, QStringList> const rows[] = {
@@ -248,7 +248,7 @@ TEST_F(FileChoice, neither_reads_nor_changes_the_toolkits_settings_of_the_user)
     settings.remove();
 }
 
-TEST(Dialogs, the_input_box_gives_the_text_and_nothing_when_cancelled)
+TEST(Dialogs, the_input_box_returns_the_text_or_nothing_if_cancelled)
 {
     QtDesktop desktop;
     for (auto const& [key, text] : {std::pair{Qt::Key_Enter, "1000"}, {Qt::Key_Escape, ""}}) {

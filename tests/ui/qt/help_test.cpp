@@ -130,7 +130,7 @@ TEST(HelpViewer, keeps_its_place_and_needs_no_scrolling_to_the_side_at_any_size)
     EXPECT_LT(page.fontMetrics().height(), normal);
 }
 
-TEST(HelpViewer, finds_a_text_goes_on_at_the_top_and_closes_the_bar_with_escape)
+TEST(HelpViewer, finds_text_continues_at_the_top_and_closes_the_bar_on_escape)
 {
     HelpViewer viewer{manual};
     viewer.open(11);

@@ -96,7 +96,7 @@ TEST(CasualtyHistogram, draws_the_bars_and_the_mean_of_its_own_side_on_the_scale
     }
 }
 
-TEST(OutcomeBar, writes_each_share_in_its_part_or_below_and_no_label_over_another)
+TEST(OutcomeBar, writes_each_share_in_its_part_or_below_it_without_overlap)
 {
     std::tuple<Tally, int, QString> const rows[] = {
         // the texts in the bar
@@ -126,7 +126,7 @@ TEST(OutcomeBar, writes_each_share_in_its_part_or_below_and_no_label_over_anothe
     }
 }
 
-TEST(SimulationProgress, shows_battles_percent_time_left_and_outcome_from_half_a_second_on)
+TEST(SimulationProgress, shows_battles_percent_time_left_and_outcome_after_half_a_second)
 {
     QtDesktop desktop;
     desktop.show_progress(1, 400, one_tie());

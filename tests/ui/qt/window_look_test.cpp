@@ -344,7 +344,7 @@ TEST(WindowLook, a_text_that_does_not_fit_or_counts_as_something_else_is_explain
     EXPECT_EQ(screen.named<QLineEdit>("txtTotalMod(0)").accessibleDescription(), long_name + ". Counts as 2");
 }
 
-TEST(WindowLook, the_usual_keys_change_tabs_and_the_keyboard_follows)
+TEST(WindowLook, the_usual_keys_change_tabs_and_the_focus_follows)
 {
     Screen screen;
     struct {
@@ -426,7 +426,7 @@ TEST(WindowLook, the_tab_key_visits_everything_in_reading_order)
             "txtBattleResults txtVictorDesc cmdSimulate"));
 }
 
-TEST(WindowLook, every_widget_that_takes_the_keyboard_has_a_name_of_its_own)
+TEST(WindowLook, every_focusable_widget_has_a_name_of_its_own)
 {
     Screen screen;
     screen.choose_tab(3);

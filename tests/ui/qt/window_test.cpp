@@ -105,7 +105,7 @@ TEST(Window, a_value_box_gives_what_is_typed_or_chosen)
     EXPECT_EQ(screen.form.cmbOpt(5).text(), "fifty & more");
 }
 
-TEST(Window, the_wheel_changes_only_the_value_box_that_has_the_keyboard)
+TEST(Window, the_wheel_changes_only_the_value_box_that_has_the_focus)
 {
     Screen screen;
     auto& box = screen.named<ValueBox>("cmbOpt(5)");
@@ -127,7 +127,7 @@ TEST(Window, the_wheel_changes_only_the_value_box_that_has_the_keyboard)
     EXPECT_EQ(screen.form.cmbOpt(5).text(), "+6");
 }
 
-TEST(Window, bounds_what_is_entered_and_shows_what_a_file_brings_whole)
+TEST(Window, limits_typed_texts_and_shows_texts_from_a_file_in_full)
 {
     Screen screen;
     auto& name = screen.named<QLineEdit>("txtArmyName");
