@@ -1,5 +1,5 @@
-// The simulation against a loop that only makes as many draws and turns each into a die; and the exact odds, which must
-// be known before anybody notices: within 2 ms.
+// The simulation compared with a loop that only draws as many numbers and turns each into a die; and the exact odds,
+// which must take no noticeable time: at most 2 ms.
 
 #include "battle/dice.h"
 #include "battle/odds.h"
@@ -35,7 +35,7 @@ template <class Work> double nanoseconds(Work&& work)
     return std::chrono::duration<double, std::nano>(std::chrono::steady_clock::now() - start).count();
 }
 
-/// Time is the simulation's alone; the best round of each side of the comparison counts.
+/// The time is that of the simulation alone; the best round on each side of the comparison counts.
 void simulate(benchmark::State& state)
 {
     Simulation simulation{static_cast<int>(state.range(0)), static_cast<int>(state.range(1)), {}};

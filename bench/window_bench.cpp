@@ -1,4 +1,4 @@
-// The window against an empty one of the same size, as whole processes, and what a key or a battle costs.
+// The window compared with an empty one of the same size, as whole processes; the cost of a key and of a battle.
 
 #include "battle/random.h"
 #include "ui/main.h"
@@ -31,7 +31,7 @@ using namespace warhost;
 
 constexpr QSize created_size{856, 640};
 
-/// A desktop that reads its list of modifiers where the bench says, and asks nothing.
+/// A desktop with the list of modifiers in a given folder, which asks nothing.
 class BenchDesktop final : public QtDesktop {
 public:
     explicit BenchDesktop(std::string folder) : folder_(std::move(folder)) {}
@@ -42,7 +42,7 @@ private:
     std::string folder_;
 };
 
-/// Returns once the window stands on the screen with its first picture.
+/// Returns when the window is on the screen and has been painted.
 void show_ready(QWidget& window)
 {
     window.show();
@@ -59,11 +59,11 @@ struct Program {
     explicit Program(std::string const& folder) : desktop(folder) { show_ready(window); }
 };
 
-// What a child process can show beside the program with the list in a folder.
+// What a child process can show instead of the program with the list in a folder.
 constexpr char const* empty_window = "--empty";
-constexpr char const* window_with_menus = "--menus"; // whose captions are the first text, for which fonts are sought
+constexpr char const* window_with_menus = "--menus"; // its captions are the first text, for which the fonts are loaded
 
-/// What a child process does: shows a window, painted, and ends at once.
+/// The work of a child process: shows a window, waits until it is painted, and ends.
 [[noreturn]] void show_once(int argc, char** argv, std::string const& what)
 {
     QApplication const application{argc, argv};
@@ -81,7 +81,7 @@ constexpr char const* window_with_menus = "--menus"; // whose captions are the f
     ::_exit(0);
 }
 
-/// Processor time of a child, in milliseconds.
+/// The processor time of a child process in milliseconds.
 double child_time(std::string const& what)
 {
     pid_t const child = ::fork();
@@ -113,7 +113,7 @@ std::string long_list_folder()
     return folder;
 }
 
-/// The best of several rounds, in which each takes its turn.
+/// The best of several rounds; the candidates take turns in each.
 void start(benchmark::State& state)
 {
     constexpr int rounds = 20;
@@ -147,7 +147,7 @@ void measure(benchmark::State& state, int tab, void (*act)(Program&))
     for (auto _ : state) {
         std::clock_t const before = std::clock();
         act(program);
-        QCoreApplication::processEvents(); // paints what has changed
+        QCoreApplication::processEvents(); // paints the changes
         slowest = std::max(slowest, 1e3 * static_cast<double>(std::clock() - before) / CLOCKS_PER_SEC);
     }
     state.counters["slowest_ms"] = slowest;

@@ -36,7 +36,7 @@ constexpr std::string_view help = "\n"
 
 constexpr std::size_t columns = 80;
 
-/// Lines break at blanks to fit the columns where the words allow it.
+/// The text with lines broken at blanks to fit the columns; a longer word stays whole.
 std::string wrapped(std::string text)
 {
     std::size_t line = 0;
@@ -60,7 +60,7 @@ std::string wrapped(std::string text)
     std::exit(EXIT_FAILURE);
 }
 
-/// Answers every question as the command line says; an error ends the program.
+/// Answers every question from the command line; an error ends the program.
 class Terminal final : public Desktop {
 public:
     explicit Terminal(char const* program) : program_(program) {}
@@ -116,7 +116,7 @@ std::string plain(std::string const& document)
     return text;
 }
 
-/// Ends the program when the file is not an army; the form's message would not name the file.
+/// Ends the program if the file is not an army; the form's message would not name the file.
 void check_army(std::string const& path)
 {
     std::string bytes;
@@ -214,7 +214,7 @@ std::uint64_t seed_of_the_clock()
     return static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch().count());
 }
 
-/// The exit status when nothing else failed.
+/// The exit status if nothing else has failed.
 int written()
 {
     if (!std::cout.flush()) stop("The output could not be written.");

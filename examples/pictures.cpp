@@ -1,4 +1,4 @@
-// pictures DATA FOLDER: the manual's and the README's pictures, taken of the real window.
+// pictures DATA FOLDER: takes the pictures of the manual and the README from the real window.
 
 #include "battle/random.h"
 #include "ui/main.h"
@@ -19,7 +19,7 @@ namespace {
 
 using namespace warhost;
 
-/// Answers what the pictures need: armies from data/armies, a hundred thousand battles.
+/// Gives the answers that the pictures need: armies from data/armies, 100,000 battles.
 class Photographer final : public QtDesktop {
 public:
     explicit Photographer(QString folder) : folder_(std::move(folder)) {}

@@ -1,4 +1,4 @@
-// Any bytes are refused and change nothing, or they are an army that is loaded, edited and saved as it is.
+// Any bytes are either rejected and change nothing, or they are an army that can be loaded, edited and saved unchanged.
 
 #include "files/army_format.h"
 #include "require.h"
@@ -41,7 +41,7 @@ void decode_within_bounds(std::string_view bytes)
     require(most_in_use - before <= 12 * bytes.size() + 100000);
 }
 
-/// By their bytes: a level in a file need not be a number, and equal itself.
+/// Compares bytes: a level in a file may be a NaN, which does not equal itself.
 bool same(Army const& a, Army const& b) { return encode_army(a) == encode_army(b); }
 
 void load_edit_and_save(std::string const& bytes)

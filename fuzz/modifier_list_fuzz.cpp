@@ -1,4 +1,4 @@
-// Any bytes are a list of sound rows, and the form shows each of them.
+// Any bytes are a list of valid rows, and the form shows each of them.
 
 #include "files/modifier_list.h"
 #include "require.h"

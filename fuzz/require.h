@@ -3,7 +3,7 @@
 #include <cstdlib>
 #include <string_view>
 
-/// What the fuzzer looks for, beside what the sanitizers find.
+/// Aborts if a condition does not hold, which the fuzzer reports like a finding of the sanitizers.
 inline void require(bool holds)
 {
     if (!holds) std::abort();

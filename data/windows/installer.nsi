@@ -38,7 +38,7 @@ VIAddVersionKey LegalCopyright "Copyright 2026 The Warhost developers"
 !insertmacro MUI_UNPAGE_INSTFILES
 !insertmacro MUI_LANGUAGE English
 
-; Stops where the program in the folder runs: its files could not be replaced.
+; Stops if the program in the folder is running, because its files could not be replaced.
 !macro StopWhileItRuns FOLDER
     ${If} ${FileExists} ${FOLDER}\warhost.exe
         ClearErrors
@@ -60,7 +60,7 @@ VIAddVersionKey LegalCopyright "Copyright 2026 The Warhost developers"
     Delete "$INSTDIR\${FOLDER}${NAME}"
 !macroend
 
-; A file that the user may have changed. What an uninstaller has left is the user's and stays.
+; A file that the user may have changed. If the uninstaller has left it, it belongs to the user and stays.
 !macro InstallOwnFile SOURCE FOLDER NAME
     SetOutPath "$INSTDIR\${FOLDER}"
     ${If} ${FileExists} "$INSTDIR\${FOLDER}${NAME}"
@@ -71,8 +71,8 @@ VIAddVersionKey LegalCopyright "Copyright 2026 The Warhost developers"
         File "${BUNDLE}/${SOURCE}"
     ${EndIf}
 !macroend
-; It has not been changed when its time is still that of the bundle. The halves of a time are compared as numbers: those
-; from here are written without a sign, those from there with one.
+; The file is unchanged if its time is still that of the bundle. The halves of a time are compared as numbers, because
+; those from the compiler are written without a sign and those from the installer with one.
 !macro RemoveOwnFile SOURCE FOLDER NAME
     GetFileTimeLocal "${BUNDLE}/${SOURCE}" $0 $1
     ClearErrors
