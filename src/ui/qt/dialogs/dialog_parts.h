@@ -21,8 +21,8 @@ protected:
 /// A plain text that can be selected and copied. spoken: its name for a screen reader.
 QLabel* selectable_text(QString const& text, char const* spoken);
 
-/// Narrows a layout's left margin by the frame of a text, which shows the ring, so that the text itself begins at the
-/// margin. Returns the width of the frame.
+/// Reduces a layout's left margin by the frame of a text, which shows the focus ring, so that the text itself begins at
+/// the margin. Returns the width of the frame.
 int move_ring_into_margin(QLayout& layout, QFrame const& text);
 
 } // namespace warhost

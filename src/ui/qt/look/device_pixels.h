@@ -1,4 +1,4 @@
-// Filling whole pixels of the device, so that lines are equally strong wherever they lie at a fractional scale.
+// Fills whole device pixels, so that all lines are equally thick at a fractional scale.
 #pragma once
 
 #include <QColor>
@@ -11,13 +11,13 @@ class DevicePixels {
 public:
     explicit DevicePixels(QPainter& painter) : painter_(painter), to_device_(painter.deviceTransform()) {}
 
-    /// The pixels of a room, each of its edges rounded by itself.
+    /// The device pixels of a rectangle, with each edge rounded by itself.
     QRect of(QRectF const& room) const;
-    /// Of a line that is `logical` pixels thick; at least 1.
+    /// The thickness in device pixels of a line that is `logical` pixels thick; at least 1.
     int thickness(double logical) const;
 
     void fill(QRect const& pixels, QColor const& colour);
-    /// A line along the longer edges of a room, which begins where the room does.
+    /// Draws a line along the longer edges of a rectangle, from its left or top edge.
     void draw_line(QRectF const& room, QColor const& colour);
 
 private:

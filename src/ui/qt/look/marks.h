@@ -8,8 +8,8 @@ namespace warhost {
 
 // Pixels of the base size.
 inline constexpr double mark_size = 7.5;
-inline constexpr double mark_left = 1; // what a diamond reaches beyond its room
-inline constexpr int mark_room = 15;   // of a mark before a text
+inline constexpr double mark_left = 1; // how far a diamond extends beyond its room
+inline constexpr int mark_room = 15;   // of a mark in front of a text
 
 /// A square for Side A (Index 0), a diamond for Side B; both as high as wide.
 void draw_side_mark(QPainter& painter, int Index, QRectF const& room, QColor const& colour);

@@ -36,7 +36,7 @@ void Table::paintEvent(QPaintEvent* event)
     }
 }
 
-/// What a cell leaves free of the space around it, which rounding makes wider than the line.
+/// The background of a cell, up to the lines around it: rounding can make the space between cells wider than a line.
 QRect Table::ground_of(QRect const& cell, DevicePixels const& pixels) const
 {
     QRect const next =

@@ -9,7 +9,7 @@ namespace warhost {
 
 class DevicePixels;
 
-/// Paints the cells of labels as heads of rows or columns. All other widgets paint themselves.
+/// Paints the background of every cell. A cell with a label is the head of a row or column.
 class Table : public QWidget {
     Q_OBJECT
 
