@@ -1,4 +1,4 @@
-# read_changelog(FILE): sets `releases`, the versions in the changelog from the newest on, and for each of them
+# read_changelog(FILE): sets `releases`, the versions in the changelog with the newest first, and for each of them
 # release_date_VERSION and release_notes_VERSION, a list with a hyphen before each item.
 macro(read_changelog file)
     file(READ ${file} changelog_rest)

@@ -1,5 +1,5 @@
-# Run by cpack between installing and packing: strips the program, puts in place what only Debian has, and compresses
-# what Debian wants compressed.
+# Run by cpack between installing and packing: strips the program, adds the files that only Debian has, and compresses
+# those that Debian requires compressed.
 include(${CPACK_WARHOST_SOURCE}/cmake/changelog.cmake)
 set(usr ${CPACK_TEMPORARY_DIRECTORY}/usr)
 set(from ${CPACK_WARHOST_DEBIAN_FILES})

@@ -1,5 +1,5 @@
-# What the program is hardened with in every optimised build: checked stacks, buffers and jumps, addresses that cannot be
-# guessed, tables that cannot be written.
+# The hardening of every optimised build: checked stacks, buffers and jumps, addresses that cannot be guessed, read-only
+# tables.
 include(CheckCXXCompilerFlag)
 include(CheckPIESupported)
 
@@ -12,7 +12,7 @@ if(CMAKE_BUILD_TYPE IN_LIST optimised_builds AND NOT WARHOST_SANITIZE AND NOT WI
     set(hardened ON)
 endif()
 
-# fortified(VARIABLE): whether the compiler or the flags from outside define _FORTIFY_SOURCE, whose level then stays.
+# fortified(VARIABLE): whether the compiler or the user's flags define _FORTIFY_SOURCE; its level is then kept.
 function(fortified variable)
     set(CMAKE_TRY_COMPILE_CONFIGURATION ${CMAKE_BUILD_TYPE})
     try_compile(plain SOURCE_FROM_CONTENT fortified.cpp "#ifdef _FORTIFY_SOURCE\n#error\n#endif\nint main() {}\n" NO_CACHE)

@@ -1,4 +1,4 @@
-# The Debian package that cpack makes of what is installed and of a few files that only Debian has.
+# The Debian package, which cpack builds from the installed files and a few that only Debian has.
 set(full_program_folder /usr/${program_folder})
 set(list_file /etc/warhost/modif.txt)
 set(list_upgrade "An upgrade keeps changes to it, and asks if it brings a new list.")

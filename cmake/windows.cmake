@@ -1,4 +1,4 @@
-# For Windows from elsewhere: MinGW. What the programs are linked with besides stands in WARHOST_WINDOWS_LIBRARIES.
+# Cross-compilation for Windows with MinGW. WARHOST_WINDOWS_LIBRARIES lists further libraries to link.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 set(CMAKE_C_COMPILER x86_64-w64-mingw32-gcc-posix) # the other variant has no threads

@@ -1,5 +1,5 @@
-# What stands beside the program on Windows: in the build tree, so that it and its tests run there, and in the bundle that
-# the archive and the installer are made of.
+# The files beside the program on Windows: in the build tree, so that it and its tests run there, and in the bundle for
+# the archive and the installer.
 set(beside_program ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
 set(libraries)
 foreach(name libgcc_s_seh-1.dll libstdc++-6.dll libwinpthread-1.dll)

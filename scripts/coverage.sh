@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Prints for each folder of the program how many of its lines the tests run. Which those are stands in
-# build/coverage/lines/index.html. What is missing is installed first.
+# Prints the line coverage of each folder of the program and writes the details to build/coverage/lines/index.html.
+# Installs missing packages first.
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
 source scripts/install.sh

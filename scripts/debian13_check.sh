@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Builds Warhost in a clean Debian 13 as an ordinary user, runs every test, makes the package, and tries it in another
-# clean Debian 13. Needs root. Both stay under build/ for the next time, and so does what was built, in
-# build/debian13/built; where no clean Debian can be made, the exit status is 77.
+# Builds Warhost in a clean Debian 13 as an ordinary user, runs every test, builds the package, and tries it in another
+# clean Debian 13. Needs root. Both systems stay under build/ for the next run, as does the build tree in
+# build/debian13/built. The exit status is 77 if no clean Debian can be made.
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
 source scripts/install.sh
@@ -27,7 +27,7 @@ if [ "$(cat "$debian.packages" 2>/dev/null)" != "$packages" ]; then
     echo "$packages" >"$debian.packages"
 fi
 
-# in_debian COMMAND: runs it in the project's folder there, where build/ is a folder of its own. The mounts end with it.
+# in_debian COMMAND: runs it there in the project's folder, with a separate build/ folder. Its mounts end with it.
 in_debian()
 {
     # shellcheck disable=SC2016 # the parameters of the inner shell

@@ -1,13 +1,13 @@
 #!/usr/bin/env bash
-# Runs every fuzz target for some seconds: scripts/fuzz.sh 600. What it learns goes to build/fuzz/learnt; what it finds
-# stops it and stays there.
+# Runs every fuzz target for a number of seconds: scripts/fuzz.sh 600. New inputs go to build/fuzz/learnt. A finding
+# stops the run and stays there.
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
 source scripts/install.sh
 
 install_packages "${packages_build[@]}" "${packages_check[@]}"
 build fuzz
-# The files that the targets load and save; in memory where the system has such a folder.
+# The folder for files that the targets load and save; in memory if the system has such a folder.
 files=$(mktemp -d -p "$([ -w /dev/shm ] && echo /dev/shm || echo "${TMPDIR:-/tmp}")")
 trap 'rm -rf "$files"' EXIT
 export TMPDIR=$files

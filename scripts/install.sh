@@ -1,5 +1,4 @@
-# Sourced, from the project's folder, by ./run, ./test, .ci/run and other scripts: what must be installed, and the
-# building itself.
+# Sourced from the project's folder by ./run, ./test, .ci/run and other scripts: installs required packages and builds.
 # shellcheck shell=bash disable=SC2034
 
 packages_program=(g++ cmake ninja-build qt6-base-dev fonts-dejavu-core)
@@ -18,8 +17,8 @@ packages_windows=(
 packages_package=(dpkg-dev lintian desktop-file-utils appstream)
 packages_package_check=(mmdebstrap xvfb xdotool)
 
-# install_packages NAME...: installs those of the Debian packages that are missing. Stops the script where that cannot
-# be done, saying what to install. On another system it goes on: what is missing shows when the build is configured.
+# install_packages NAME...: installs those of the Debian packages that are missing. If it cannot, it lists them and
+# stops the script. On other systems it continues: configuring the build reports what is missing.
 install_packages()
 {
     if ! command -v apt-get >/dev/null || ! command -v dpkg-query >/dev/null; then
@@ -48,16 +47,15 @@ install_packages()
     printf 'Installing %s\n' "${missing[*]}"
     local apt_get=("${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq -o DPkg::Lock::Timeout=300)
     local install=("${apt_get[@]}" install --no-install-recommends "${missing[@]}")
-    # The package lists are fetched only when those at hand do not do.
+    # Updates the package lists only if the present ones are not sufficient.
     if ! "${install[@]}" </dev/null >/dev/null 2>&1; then
         "${apt_get[@]}" update </dev/null >/dev/null
         "${install[@]}" </dev/null >/dev/null
     fi
 }
 
-# make_debian CODENAME FOLDER PACKAGES: a clean Debian in the folder, with its essential packages and those named, from
-# where this machine takes its own. PACKAGES are separated by commas. Fails where none can be made. Needs root and
-# mmdebstrap.
+# make_debian CODENAME FOLDER PACKAGES: makes a clean Debian in the folder, with the essential packages and PACKAGES
+# (separated by commas), from this machine's package sources. Fails if it cannot. Needs root and mmdebstrap.
 # shellcheck disable=SC2016,SC1091 # apt's own variables; the system's own file
 make_debian()
 {
@@ -75,13 +73,13 @@ mounts_allowed()
     [ "$(id -u)" -eq 0 ] && unshare --mount-proc --fork true 2>/dev/null
 }
 
-# is_current TREE: whether it was made for these presets and this place.
+# is_current TREE: whether it was configured with these presets and at this path.
 is_current()
 {
     [ "$1/build.ninja" -nt CMakePresets.json ] && grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$PWD" "$1/CMakeCache.txt"
 }
 
-# check_writable TREE: stops the script where the tree cannot be written to.
+# check_writable TREE: stops the script if the tree is not writable.
 check_writable()
 {
     if ! mkdir -p "$1" 2>/dev/null || [ ! -w "$1" ]; then
@@ -93,7 +91,7 @@ check_writable()
 # configure PRESET OPTION...: runs cmake for build/PRESET.
 configure()
 {
-    # Where ccache is installed, what was compiled once is not compiled again.
+    # Uses ccache if it is installed.
     export CMAKE_CXX_COMPILER_LAUNCHER=${CMAKE_CXX_COMPILER_LAUNCHER-$(command -v ccache || true)}
     cmake --preset "$@"
 }
@@ -103,8 +101,8 @@ run_ninja()
     ninja -C "$@" | sed -u '/^ninja: Entering directory/d; /Re-checking globbed dir/d; /^ninja: no work to do/d'
 }
 
-# build PRESET OPTION...: configures build/PRESET where that is needed, with the options besides, and builds it; prints
-# nothing when nothing has changed.
+# build PRESET OPTION...: configures build/PRESET with the additional options if necessary, and builds it. Prints
+# nothing if nothing has changed.
 build()
 {
     local tree=build/$1
@@ -117,8 +115,8 @@ build()
     run_ninja "$tree"
 }
 
-# build_program: in build/release, what ./run starts. A tree without tests needs none of their libraries; one that has
-# them keeps them.
+# build_program: builds in build/release what ./run starts. A tree without tests does not need their libraries; a tree
+# with tests keeps them.
 build_program()
 {
     check_writable build/release
@@ -126,8 +124,8 @@ build_program()
     run_ninja build/release warhost fight
 }
 
-# use_wine FOLDER: lets Wine keep what it needs there, as Windows 10 with DejaVu's fonts, without entries for the desktop's
-# menus and without questions for parts that are not needed, and ends it with the script.
+# use_wine FOLDER: sets up Wine in the folder as Windows 10 with the DejaVu fonts, without menu entries on the desktop
+# and without questions about optional parts, and ends it with the script.
 use_wine()
 {
     export WINEPREFIX=$1 WINEDLLOVERRIDES='winemenubuilder.exe=;mscoree=;mshtml=' WINEDEBUG=-all

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Makes the Debian package in build/package and checks what is in it. What is missing is installed first.
+# Builds the Debian package in build/package and checks its contents. Installs missing packages first.
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
 source scripts/install.sh
@@ -14,7 +14,7 @@ lintian --allow-root --display-info --pedantic --fail-on error,warning,info,peda
 dpkg-deb --extract "$made"/*.deb "$made/content"
 desktop-file-validate "$made"/content/usr/share/applications/*.desktop
 appstreamcli validate-tree --no-net "$made/content"
-# The files that the manual page and the licences name.
+# The files that the manual page and the licences mention.
 named=$(zcat "$made"/content/usr/share/man/man6/warhost.6.gz | cat - "$made/content/usr/share/doc/warhost/copyright" |
     grep -o '/[^ ]*/warhost/[a-z./]*')
 for path in $named; do

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
-# package_check.sh [PACKAGE CODENAME]: installs the package (the one that scripts/package.sh made) into a clean Debian (of
-# this machine's release), uses the program there as an ordinary user, removes it, and fails if anything is left. Needs
-# root. The clean Debian stays in build/clean for the next time; where none can be made, the exit status is 77.
+# package_check.sh [PACKAGE CODENAME]: installs the package into a clean Debian, uses the program there as an ordinary
+# user, removes it, and fails if anything is left. Without arguments, it takes the package from scripts/package.sh and
+# this machine's release of Debian. Needs root. The clean Debian stays in build/clean for the next run. The exit status
+# is 77 if none can be made.
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
 source scripts/install.sh
@@ -20,7 +21,7 @@ home=/home/player
 player=65534
 export PKGSYSTEM_ENABLE_FSYNC=0 # the MIME database need not survive a power cut
 
-# What the clean Debian was made for, and everything in it.
+# The packages that the clean Debian was made with, and everything in it.
 listing()
 {
     echo "$depends"
@@ -61,7 +62,7 @@ program=$!
 trap 'kill $program $screen 2>/dev/null' EXIT
 main_window=$(window Warhost)
 xdotool windowfocus --sync "$main_window"
-# From the first field backwards to the last row of the list, then to what the manual tells of that row.
+# Goes backwards from the first field to the last row of the list, then to the topic of that row in the manual.
 xdotool key shift+Tab shift+Tab F1
 window 'Misc. modifiers and feats - Warhost Help' >/dev/null
 kill $program

@@ -6,7 +6,7 @@ source scripts/install.sh
 
 install_packages "${packages_build[@]}"
 build release
-# The off-screen platform's own screen is smaller than the window.
+# The default screen of the off-screen platform is smaller than the window.
 screen=$(mktemp)
 trap 'rm -f "$screen"' EXIT
 printf '{"screens": [{"name": "one", "x": 0, "y": 0, "width": 2400, "height": 1800, "logicalDpi": 96, "dpr": 1}]}' >"$screen"

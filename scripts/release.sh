@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Makes a release of what is committed: the package, the source and their checksums, in build/warhost-VERSION, and, where
-# scripts/windows.sh has made the toolkit for Windows before, the archive and the installer for Windows with the
+# Makes a release of the last commit in build/warhost-VERSION: the package, the source and their checksums. If
+# scripts/windows.sh has built the toolkit for Windows before, also the archive and the installer for Windows with the
 # toolkit's source package. The version is the project's; configuring fails unless CHANGELOG.md begins with it.
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."

@@ -1,6 +1,5 @@
 #!/usr/bin/env bash
-# Prints the share of the tests in all lines of tests and program together, blank lines left out. Fails outside 25 to 28
-# per cent.
+# Prints the share of the tests in the lines of tests and program that are not blank. Fails outside 25 to 28 %.
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
 

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Builds Warhost for Windows, runs its tests under Wine, makes the archive and the installer in build/windows-release, and
-# tries them under Wine. What is missing is installed first; the toolkit is made once, which takes about 40 minutes.
+# Builds Warhost for Windows, runs its tests under Wine, builds the archive and the installer in build/windows-release,
+# and tries them under Wine. Installs missing packages first; builds the toolkit once, which takes about 40 minutes.
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
 source scripts/install.sh
@@ -33,14 +33,14 @@ cp /usr/share/doc/gcc-mingw-w64-base/copyright "$bundle/licences/compiler-copyri
 cp /usr/share/doc/mingw-w64-common/copyright "$bundle/licences/runtime-copyright.txt"
 sed "s/@TOOLKIT_VERSION@/$(cat "$toolkit/complete")/" data/windows/libraries.txt.in >"$bundle/licences/libraries.txt"
 
-# The day of the release for every file: the uninstaller tells by the time whether a file was changed, and the installer
-# keeps even seconds only.
+# Sets every file to the day of the release: the uninstaller recognises changed files by their time, and the installer
+# stores only even seconds.
 day=$(sed -n "s/^## $version (\(.*\))$/\1/p" CHANGELOG.md)
 find "$bundle" -type f -exec touch -d "$day 12:00 UTC" {} +
 
 (cd "$made" && cmake -E tar cf "$name-windows.zip" --format=zip "$name")
 
-# What the installer installs, see there.
+# The list of files for the installer; see there.
 (cd "$bundle" && find . -type f -printf '%P\n' | LC_ALL=C sort) | while read -r file; do
     folder=${file%"${file##*/}"}
     case $file in

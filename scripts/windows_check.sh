@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Tries under Wine what scripts/windows.sh has made: runs the window's tests on a screen, installs the program silently
-# into a fresh Wine, plays a battle with it through the system's own file dialogs, upgrades it, removes it, and fails if
-# anything is left but what is the user's. Puts a picture of each window into build/windows-release/pictures.
+# Tries the results of scripts/windows.sh under Wine: runs the window's tests on a screen, installs the program silently
+# into a fresh Wine, plays a battle through the system's own file dialogs, upgrades the program, removes it, and fails
+# if anything but the user's files is left. Puts a picture of each window into build/windows-release/pictures.
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
 source scripts/install.sh
@@ -27,7 +27,7 @@ user=$wine/drive_c/users/$(id -un)
 programs=$user/AppData/Local/Programs
 installed=$programs/Warhost
 
-# Everything of the user's, files and registry, except what Wine notes of its own.
+# The user's files and registry, except for what Wine itself records.
 state()
 {
     wine reg export 'HKCU\Software' 'C:\state.reg' /y >/dev/null
@@ -44,7 +44,7 @@ fail()
     exit 1
 }
 
-# window TITLE, a regular expression: waits for it, and makes it the active one. Windows that vanish meanwhile make xdotool fail.
+# window TITLE: waits for the window and activates it. TITLE is a regular expression. xdotool fails if windows vanish.
 window()
 {
     local id
@@ -74,7 +74,7 @@ gone()
     fail "The window \"$1\" stays."
 }
 
-# in_dialog TITLE FILE: gives the name of a file to the system's dialog.
+# in_dialog TITLE FILE: types the name of a file into the system's dialog.
 in_dialog()
 {
     window "$1"
@@ -86,17 +86,17 @@ in_dialog()
     window Warhost
 }
 
-# The fonts that Windows has and Wine has not.
+# Fonts that Windows has and Wine lacks.
 for font in 'MS Shell Dlg' 'MS Shell Dlg 2' 'Segoe UI' Tahoma; do
     wine reg add 'HKCU\Software\Wine\Fonts\Replacements' /v "$font" /d 'DejaVu Sans' /f >/dev/null
 done
 
-# On the platform that users have; Wine takes the toolkit's variables under names of its own. Left out are the toolkit's
-# file dialog, which does not appear there, the small screen, and a test that expects other widths of texts.
+# On the users' platform; Wine reads the toolkit's variables under different names. Skipped are the toolkit's file
+# dialog, which does not appear there, the small screen, and a test that expects other widths of texts.
 WINEQT_QPA_PLATFORM=windows timeout -s KILL 300 wine build/windows/bin/window_tests.exe \
     --gtest_filter=-FileChoice.*:SmallScreen.*:OutcomeBar.writes_each_share* --gtest_brief=1 2>/dev/null
 
-# The keys that Windows always has.
+# The keys that always exist on Windows.
 for key in Classes 'Microsoft\Windows\CurrentVersion\Uninstall'; do
     wine reg add 'HKCU\Software\'"$key" /f >/dev/null
 done
@@ -109,7 +109,7 @@ program=$!
 window Warhost
 if wine "$setup" /S; then fail 'The installer replaces a program that runs.'; fi
 
-# Side A, then Side B, then the battle; the keyboard goes from the name of an army to the tabs with Shift+Tab.
+# Side A, then Side B, then the battle; Shift+Tab moves the focus from the name of an army to the tabs.
 xdotool key ctrl+l
 in_dialog 'Load Warhost Army File' korrins_anvil.Army load_dialog
 picture army_screen

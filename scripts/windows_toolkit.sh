@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# windows_toolkit.sh folder|build: the toolkit for Windows, made once from the source package of the Debian that runs here.
-# "folder" prints where it stands, in the user's cache under its version and options. "build" makes it where it is
-# missing, which takes about 40 minutes, and goes on where an earlier run was interrupted. In the folder, installed/ is
-# the toolkit, source-package/ what it was made of, and complete says that it is, and the version.
+# windows_toolkit.sh folder|build: the toolkit for Windows, built once from the source package of this machine's Debian.
+# "folder" prints its folder, in the user's cache under its version and options. "build" builds it if it is missing,
+# which takes about 40 minutes, and continues where an earlier run was interrupted. In the folder, installed/ is the
+# toolkit, source-package/ its source, and the file complete marks a complete build and holds the version.
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
 
@@ -30,8 +30,8 @@ key=$(printf '%s\n' "$compiler" "${options[@]}" | sha256sum | cut -c 1-8)
 folder=${XDG_CACHE_HOME:-$HOME/.cache}/warhost/qt-${version%%+*}-windows-$key
 prefix=$folder/installed
 
-# Leaves the machine's own settings of apt alone: the entries for source packages, their lists and the caches stand in
-# the folder.
+# Leaves the machine's apt settings unchanged: the entries for source packages, their lists and the caches are in the
+# folder.
 # shellcheck disable=SC2016 # apt's own variables
 fetch_source()
 {
