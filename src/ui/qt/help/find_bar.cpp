@@ -84,17 +84,13 @@ void FindBar::find(QTextDocument::FindFlags direction)
     message_->clear();
     if (text_->text().isEmpty() || page_.find(text_->text(), direction)) return;
 
-    auto const before = page_.textCursor();
-    auto cursor = before;
-    cursor.movePosition(direction.testFlag(QTextDocument::FindBackward) ? QTextCursor::End : QTextCursor::Start);
-    page_.setTextCursor(cursor);
-    if (page_.find(text_->text(), direction)) {
-        message_->setText(direction.testFlag(QTextDocument::FindBackward) ? "Continued from the end of the page"
-                                                                          : "Continued from the top of the page");
-    } else {
-        page_.setTextCursor(before);
-        message_->setText("Not found on this page");
-    }
+    bool const backward = direction.testFlag(QTextDocument::FindBackward);
+    QTextCursor start{page_.document()};
+    if (backward) start.movePosition(QTextCursor::End);
+    QTextCursor const found = page_.document()->find(text_->text(), start, direction);
+    if (found.isNull()) return message_->setText("Not found on this page");
+    page_.setTextCursor(found);
+    message_->setText(backward ? "Continued from the end of the page" : "Continued from the top of the page");
 }
 
 void FindBar::keyPressEvent(QKeyEvent* event)
