@@ -6,6 +6,7 @@
 #include "ui/qt/widgets/text.h"
 
 #include <QEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOptionFrame>
@@ -153,6 +154,7 @@ void EntryBox::changeEvent(QEvent* event)
 void EntryBox::focusInEvent(QFocusEvent* event)
 {
     QLineEdit::focusInEvent(event);
+    clicked_into_ = event->reason() == Qt::MouseFocusReason;
     fit();
 }
 
@@ -160,6 +162,14 @@ void EntryBox::focusOutEvent(QFocusEvent* event)
 {
     QLineEdit::focusOutEvent(event);
     fit();
+}
+
+/// The first click selects a number, as Tab does, so that the next number replaces it.
+void EntryBox::mouseReleaseEvent(QMouseEvent* event)
+{
+    QLineEdit::mouseReleaseEvent(event);
+    if (clicked_into_ && holds_ == Holds::number && !hasSelectedText()) selectAll();
+    clicked_into_ = false;
 }
 
 } // namespace warhost

@@ -34,6 +34,7 @@ protected:
     void changeEvent(QEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
     QRect room() const;
@@ -44,6 +45,7 @@ private:
     void describe();
 
     Holds holds_;
+    bool clicked_into_ = false;
     Type type_ = type::plain;
     std::function<QString(QString const&)> reading_;
     QString description_;
