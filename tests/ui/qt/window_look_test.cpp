@@ -310,6 +310,10 @@ TEST(CombatScreen, shows_what_to_press_next)
     EXPECT_EQ(state(0).substr(0, 12), "Victor loses");
     form.txtLoses(8).set_text("3");
     EXPECT_EQ(state(1), "Loser loses 20%");
+    form.txtResult(1).set_text("12"); // B wins now, and its losses are not known yet
+    EXPECT_EQ(state(1), "");
+    form.txtVictorCasPercent.set_text("50");
+    EXPECT_EQ(state(1).substr(0, 12), "Victor loses");
 
     form.cmdSimulate.press();
     EXPECT_TRUE(hint("Frame6"));
@@ -339,6 +343,10 @@ TEST(WindowLook, a_text_that_does_not_fit_or_counts_as_something_else_is_explain
         EXPECT_EQ(soldiers.toolTip(), tooltip) << typed;
         EXPECT_EQ(soldiers.text(), typed);
     }
+    auto& others = screen.named<QLineEdit>("txtUnitNum(1)");
+    QTest::mouseClick(&others, Qt::LeftButton, {}, {2, others.height() / 2});
+    QTest::keyClicks(&others, "200");
+    EXPECT_EQ(others.text(), "200");
     screen.choose_tab(3);
     screen.form.txtTotalMod(0).set_text("2 or 3");
     EXPECT_EQ(screen.named<QLineEdit>("txtTotalMod(0)").accessibleDescription(), long_name + ". Counts as 2");

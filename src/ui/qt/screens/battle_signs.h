@@ -1,7 +1,10 @@
 // The state of a battle that the combat screen shows beside its fields.
 #pragma once
 
+#include "battle/battle_state.h"
+
 #include <array>
+#include <optional>
 
 namespace warhost {
 
@@ -17,8 +20,21 @@ public:
     /// Index: 0 for Side A, 1 for Side B. The losses on the screen have already been subtracted from the army.
     bool applied(int Index) const { return applied_.at(static_cast<std::size_t>(Index)); }
 
+    /// The victor's casualties have been computed since that side became the victor.
+    bool victor_known() const { return victor_known_; }
+
     void result_set() { begin_anew(); }
-    void percentage_set() { applied_ = {}; }
+    void winner_set(std::optional<BattleWinner> winner)
+    {
+        if (winner != winner_) victor_known_ = false;
+        winner_ = winner;
+    }
+    void loser_percentage_set() { applied_ = {}; }
+    void victor_percentage_set()
+    {
+        applied_ = {};
+        victor_known_ = true;
+    }
     void loss_set(int Index) { applied_.at(static_cast<std::size_t>(Index)) = false; }
     void casualties_applied(int Index) { applied_.at(static_cast<std::size_t>(Index)) = true; }
     void battles_simulated() { simulated_ = true; }
@@ -48,6 +64,8 @@ private:
     Reroll reroll_ = Reroll::none;
     bool simulated_ = false;
     std::array<bool, 2> applied_{};
+    std::optional<BattleWinner> winner_;
+    bool victor_known_ = false;
 };
 
 } // namespace warhost

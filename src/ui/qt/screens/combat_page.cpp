@@ -325,11 +325,13 @@ void CombatPage::follow_battle()
     }
     when_shown(controls_.txtVictorCasRoll, [](BattleSigns& signs) { signs.casualty_roll_set(); });
     when_shown(controls_.txtVictorCasPercent, [](BattleSigns& signs) { signs.share_set(); });
-    for (TextBox* const field : {&controls_.txtLoserCasualty, &controls_.txtVictorCas}) {
-        when_shown(*field, [](BattleSigns& signs) { signs.percentage_set(); });
-    }
+    when_shown(controls_.txtLoserCasualty, [](BattleSigns& signs) { signs.loser_percentage_set(); });
+    when_shown(controls_.txtVictorCas, [](BattleSigns& signs) { signs.victor_percentage_set(); });
     when_shown(controls_.cmdSimulate, [](BattleSigns& signs) { signs.battles_simulated(); });
-    also_show(controls_.lblWinner, [this] { show_signs(); });
+    also_show(controls_.lblWinner, [this] {
+        signs_.winner_set(shown_winner(controls_));
+        show_signs();
+    });
     also_show(controls_.lblWinBy, [this] { band_->show_winner(); });
 }
 

@@ -127,6 +127,7 @@ QString SidePanel::share(BattleSigns const& signs) const
     auto const winner = shown_winner(controls_);
     if (!winner) return {};
     bool const loses = loser_index(*winner) == Index_;
+    if (!loses && !signs.victor_known()) return {};
     QString const who = *winner == tie ? "Tie: loses" : loses ? "Loser loses" : "Victor loses";
     TextBox const& percentage = loses ? controls_.txtLoserCasualty : controls_.txtVictorCas;
     return who + ' ' + beginning_of(percentage.text()) + '%';
