@@ -56,7 +56,7 @@ void TabPage::paint_tab(QPainter& painter, int place) const
     auto const length = [&](double base) { return base * scale.factor(); };
     bool const marked = place < side_tabs;
     bool const chosen = place == currentIndex();
-    QColor const own = marked ? of.side.at(static_cast<std::size_t>(place)) : of.ring;
+    QColor const own = in_state(isEnabled(), marked ? of.side.at(static_cast<std::size_t>(place)) : of.ring);
     QRectF const tab = tabRect(place);
     double const line = scale.line();
     if (chosen) { // without a lower edge, because the page continues it
@@ -89,7 +89,7 @@ void TabPage::paint_tab(QPainter& painter, int place) const
         draw_side_mark(painter, place, {text.left(), text.center().y() - size / 2, size, size}, own);
         text.setLeft(text.left() + size + length(behind_mark));
     }
-    painter.setPen(chosen ? of.text : of.dim);
+    painter.setPen(in_state(isEnabled(), chosen ? of.text : of.dim));
     painter.drawText(text, static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter), tabText(place).replace("&&", "&"));
 }
 

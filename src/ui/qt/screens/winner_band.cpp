@@ -108,7 +108,7 @@ void WinnerBand::paintEvent(QPaintEvent* /*event*/)
     double const round = corner * scale.factor();
     painter.drawRoundedRect(QRectF{rect()}, round, round);
     painter.setClipRect(0, 0, scale.from_base(edge_width), height());
-    painter.setBrush(decided ? of.side.at(*winner) : of.soft);
+    painter.setBrush(decided ? in_state(isEnabled(), of.side.at(*winner)) : of.soft);
     painter.drawRoundedRect(QRectF{rect()}, round, round);
 }
 
