@@ -55,6 +55,7 @@ TEST(VictorTable, takes_the_first_row_that_applies)
         {11, 0, none, 8}, {12, 0, none, 9}, {15, 0, none, 9}, {16, 0, none, 10}, {19, 0, none, 10}, {20, 0, plus, 11},
         {999, 0, plus, 11}, {20, 5, none, 12}, {999, 0, none, 12}, {20, 6, minus, 12}, {-1000, 0, none, no_row},
         {1000, 0, both, no_row}, {1000, 980, none, 3}, {-1000, -1001, none, 1}, {30000, -30000, none, no_row},
+        {-1000, 0, minus, no_row}, {1000, 0, plus, no_row}, {1000, 0, none, no_row},
     };
     constexpr int ranges[][2] = {{100, 100}, {110, 110}, {2, 2}, {0, 0}, {100, 100}, {90, 90},
                                  {20, 80}, {10, 60}, {10, 30}, {5, 20}, {2, 2}, {5, 5}};
