@@ -261,7 +261,9 @@ TEST(HelpKey, opens_the_topic_of_the_row_or_the_page_of_the_screen_or_the_dialog
     };
     auto const wait = [&] { screen.desktop.wait_for([] { QThread::msleep(600); }); };
     auto const ask = [&] { screen.desktop.QtDesktop::input_box({"", "Simulate N Battles", ""}); };
-    auto const report = [&] { screen.desktop.QtDesktop::show_report({"", "Warhost Simulation"}, Tally{}, Odds{0, 0}); };
+    Tally fought;
+    fought.count(tie, 0, 100);
+    auto const report = [&] { screen.desktop.QtDesktop::show_report({"", "Warhost Simulation"}, fought, Odds{0, 0}); };
     std::pair<std::function<void()>, char const*> const dialogs[] = {
         {message("Warhost"), "combat_screen.html"},
         {message("Quit Warhost?"), "contents.html#menus"},
