@@ -45,6 +45,7 @@ TEST(RichText, shows_text_bold_and_lines_and_skips_all_other_markup)
         {"raw bytes of the code page", "{\\rtf1 \x80\xe9}", "\u20ac\u00e9"},
         {"raw bytes of UTF-8", "{\\rtf1 \u20ac\u00e9\U0001F600}", "\u20ac\u00e9\U0001F600"},
         {"line ends", "{\\rtf1 a\r\nb\\par\r\nc}", "ab|c"},
+        {"a negative number at the end", "{\\rtf1 a\\x-1", "a"},
         {"nothing behind the end", R"({\rtf1 a}b\par{c)", "a"}};
     for (auto const& [story, document, expected] : rows) EXPECT_EQ(told(document), expected) << story;
 }
