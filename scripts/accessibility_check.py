@@ -153,5 +153,5 @@ if __name__ == "__main__":
         sys.exit(outside(os.path.abspath(sys.argv[1])))
     import pyatspi  # needs the session bus
     found = inside(sys.argv[1])
-    print("\n".join(found) if found else "Names, roles and values are told as they should be.")
+    print("\n".join(found) if found else "Names, roles and values are reported correctly.")
     sys.exit(1 if found else 0)
