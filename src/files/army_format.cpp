@@ -70,34 +70,17 @@ public:
 
     template <std::integral Number> void number(std::string const& field, Number& value)
     {
-        std::uint64_t bits = 0;
-        auto const taken = take(field, sizeof value);
-        for (std::size_t i = 0; i < taken.size(); ++i) {
-            bits |= std::uint64_t{static_cast<unsigned char>(taken[i])} << (8 * i);
-        }
-        value = static_cast<Number>(bits);
+        value = next_number<Number>(field);
     }
 
     void number(std::string const& field, float& value)
     {
-        std::uint32_t bits = 0;
-        number(field, bits);
-        value = std::bit_cast<float>(bits);
+        value = std::bit_cast<float>(next_number<std::uint32_t>(field));
     }
 
-    void text(std::string const& field, std::string& utf8)
-    {
-        std::string bytes;
-        raw_text(field, bytes);
-        utf8 = utf8_of_windows_1252(bytes);
-    }
+    void text(std::string const& field, std::string& utf8) { utf8 = utf8_of_windows_1252(next_text(field)); }
 
-    void raw_text(std::string const& field, std::string& text)
-    {
-        std::uint16_t size = 0;
-        number(field, size);
-        text = take(field, size);
-    }
+    void raw_text(std::string const& field, std::string& text) { text = next_text(field); }
 
     template <std::size_t size> void reserved(std::string const& field, Reserved<size>& stretch)
     {
@@ -107,16 +90,13 @@ public:
     void list(std::string const& field, Element element, ReservedList& list)
     {
         std::size_t const start = at_;
-        std::uint16_t dimensions = 0;
-        number(field, dimensions);
+        auto const dimensions = next_number<std::uint16_t>(field);
         std::uint64_t count = dimensions == 0 ? 0 : 1;
         for (unsigned i = 0; i < dimensions; ++i) {
-            std::uint32_t elements = 0;
-            std::uint32_t lower_bound = 0;
-            number(field, elements);
-            number(field, lower_bound);
-            // Past the number of bytes there are, only a later 0 can still make the list possible.
-            count = elements == 0 ? 0 : std::min<std::uint64_t>(count, bytes_.size() + 1) * elements;
+            auto const elements = next_number<std::uint32_t>(field);
+            next_number<std::uint32_t>(field); // the lower bound
+            // From the number of bytes there are, only a later 0 can still make the list possible.
+            count = std::min<std::uint64_t>(count, bytes_.size()) * elements;
         }
         std::size_t const smallest = element == Element::number ? 4 : 2;
         if (count > (bytes_.size() - at_) / smallest)
@@ -124,13 +104,24 @@ public:
         if (element == Element::number) {
             take(field, static_cast<std::size_t>(count) * smallest);
         } else {
-            std::string skipped;
-            for (std::uint64_t i = 0; i < count; ++i) raw_text(field, skipped);
+            for (std::uint64_t i = 0; i < count; ++i) next_text(field);
         }
         list.encoded = bytes_.substr(start, at_ - start);
     }
 
 private:
+    template <std::integral Number> Number next_number(std::string const& field)
+    {
+        std::uint64_t bits = 0;
+        auto const taken = take(field, sizeof(Number));
+        for (std::size_t i = 0; i < taken.size(); ++i) {
+            bits |= std::uint64_t{static_cast<unsigned char>(taken[i])} << (8 * i);
+        }
+        return static_cast<Number>(bits);
+    }
+
+    std::string_view next_text(std::string const& field) { return take(field, next_number<std::uint16_t>(field)); }
+
     std::string_view take(std::string const& field, std::size_t size)
     {
         if (size > bytes_.size() - at_)
