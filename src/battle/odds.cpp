@@ -71,7 +71,7 @@ template <class Visitor> void visit_meetings(Results const& results, CarriedChan
             double none = 1;
             for (Boxes boxes = 1; boxes < box_states; ++boxes) {
                 none -= checked.at(boxes);
-                if (checked.at(boxes) > 0) visit(meeting, die_b, boxes, two_dice * checked.at(boxes));
+                visit(meeting, die_b, boxes, two_dice * checked.at(boxes));
             }
             visit(meeting, die_b, Boxes{0}, two_dice * none);
         }

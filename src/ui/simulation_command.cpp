@@ -44,12 +44,10 @@ void Main::cmdSimulate_Click()
     }
     // The last battle is fought on the screen, which then shows it whole. This sets the texts without running Change;
     // the battles have already accounted for them.
-    if (battles > 1) {
-        quiet_step([&] {
-            txtResult(1).set_text_silently(plain_text(simulation->carried_over().result_b));
-            txtVictorCasRoll.set_text_silently(plain_text(simulation->carried_over().victor_roll));
-        });
-    }
+    quiet_step([&] {
+        txtResult(1).set_text_silently(plain_text(simulation->carried_over().result_b));
+        txtVictorCasRoll.set_text_silently(plain_text(simulation->carried_over().victor_roll));
+    });
     cmdRollAll_Click();
     if (chkMinus5.state() == 1 || chkPlus5.state() == 1) {
         cmdRollCasualty_Click();

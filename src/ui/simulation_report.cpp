@@ -15,7 +15,7 @@ namespace {
 std::string margin_text(double margin, NumberFormat const& format)
 {
     if (margin == 0) return "0";
-    int const decimals = std::clamp(1 - static_cast<int>(std::floor(std::log10(margin))), 0, 9);
+    int const decimals = std::max(1 - static_cast<int>(std::floor(std::log10(margin))), 0);
     double const scale = std::pow(10, decimals);
     std::array<char, 32> buffer{};
     auto* const end = std::to_chars(buffer.begin(), buffer.end(), std::ceil(margin * scale) / scale,
