@@ -154,11 +154,10 @@ void print_army(Main& form, int side)
     form.TabStrip.choose(side);
     std::cout << side_name(side - tab_side_a) << ": " << form.txtArmyName.text() << '\n';
     print_units(form);
-    for (auto const& [k, button] : form.opt) {
-        if (!button.selected()) continue;
-        int const category = option_of(k)->category;
-        std::cout << "  " << category_captions.at(static_cast<std::size_t>(category)) << ": " << button.caption()
-                  << ", " << form.cmbOpt(category).text() << '\n';
+    for (auto const& option : options) {
+        if (!form.opt(option.index).selected()) continue;
+        std::cout << "  " << category_captions.at(static_cast<std::size_t>(option.category)) << ": " << option.caption
+                  << ", " << form.cmbOpt(option.category).text() << '\n';
     }
     for (auto const& [row, box] : form.chkMisc) {
         if (box.state() == 1) std::cout << "  " << box.caption() << ": " << form.cmbMisc(row).text() << '\n';
