@@ -123,7 +123,6 @@ public:
         } catch (Failure& failure) {
             pending_error = std::move(failure);
         } catch (std::bad_alloc const&) {
-            reserve_.free();
             pending_error = {static_cast<std::int32_t>(Fault::out_of_memory), {}};
             quiet_step([&] { pending_error = failure_of(Fault::out_of_memory); });
         }

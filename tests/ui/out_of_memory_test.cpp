@@ -8,15 +8,15 @@
 
 namespace {
 
-int allocations_left = -1;       // until one fails; negative: none does
-bool memory_stays_short = false; // all that follow fail, too
+int allocations_left = -1;       // until one fails and all that follow; negative: none does
+bool memory_stays_short = false; // also after the program has given back a large block
 
 } // namespace
 
 [[gnu::noinline]] void* operator new(std::size_t size)
 {
     if (allocations_left > 0 && --allocations_left == 0) {
-        if (memory_stays_short) allocations_left = 1;
+        allocations_left = 1;
         throw std::bad_alloc{};
     }
     if (void* const memory = std::malloc(size > 0 ? size : 1)) return memory;
@@ -31,7 +31,11 @@ bool memory_stays_short = false; // all that follow fail, too
     }
 }
 [[gnu::noinline]] void operator delete(void* memory) noexcept { std::free(memory); }
-[[gnu::noinline]] void operator delete(void* memory, std::size_t /*size*/) noexcept { std::free(memory); }
+[[gnu::noinline]] void operator delete(void* memory, std::size_t size) noexcept
+{
+    std::free(memory);
+    if (size > 100'000 && allocations_left == 1 && !memory_stays_short) allocations_left = 0;
+}
 
 namespace warhost {
 namespace {
@@ -108,14 +112,14 @@ std::vector<Action> const actions{
     // clang-format on
 };
 
-/// Runs `run` while its n-th allocation fails, and all that follow where memory stays short. Returns whether it made so
-/// many.
+/// Runs `run` while its n-th allocation fails and all that follow, or those until a large block is given back. Returns
+/// whether it made so many.
 template <class Run> bool short_of_memory(int n, bool for_good, Run run)
 {
     memory_stays_short = for_good;
     allocations_left = n;
     EXPECT_NO_THROW(run());
-    bool const struck = allocations_left == 0 || (for_good && allocations_left == 1);
+    bool const struck = allocations_left == 0 || allocations_left == 1;
     allocations_left = -1;
     return struck;
 }
