@@ -8,10 +8,13 @@
 
 namespace warhost {
 
+constexpr bool failed(auto result_of_system_call) { return result_of_system_call == -1; }
+
 /// Closes its file at the end. Errors of closing are not reported: what must last has been flushed.
 class Descriptor {
 public:
-    explicit Descriptor(int number = -1) : number_(number) {}
+    /// number: of the open file, or -1.
+    explicit Descriptor(int number = none) : number_(number) {}
     Descriptor(Descriptor&& other) noexcept : number_(other.release()) {}
     Descriptor& operator=(Descriptor&& other) noexcept
     {
@@ -20,11 +23,12 @@ public:
     }
     ~Descriptor();
 
-    bool is_open() const { return number_ >= 0; }
+    bool is_open() const { return number_ != none; }
     int number() const { return number_; }
-    int release() { return std::exchange(number_, -1); }
+    int release() { return std::exchange(number_, none); }
 
 private:
+    static constexpr int none = -1;
     int number_;
 };
 
@@ -32,7 +36,7 @@ private:
 template <class Call> auto uninterrupted(Call call)
 {
     auto result = call();
-    while (result < 0 && errno == EINTR) result = call();
+    while (failed(result) && errno == EINTR) result = call();
     return result;
 }
 

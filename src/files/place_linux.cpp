@@ -2,11 +2,12 @@
 
 #include "base/failure.h"
 
+#include <array>
 #include <cerrno>
 #include <climits>
 #include <cstddef>
 #include <fcntl.h>
-#include <string>
+#include <string_view>
 #include <unistd.h>
 
 namespace warhost {
@@ -49,11 +50,11 @@ Place place_of(fs::path const& path)
         auto const status = status_of(entry);
         if (!S_ISLNK(status.st_mode)) return place;
         if (!is_trusted(status, status_of(place.folder))) throw failure_of(Fault::foreign_link, path.native());
-        std::string target(PATH_MAX, '\0');
+        std::array<char, PATH_MAX> target{};
         ssize_t const length = ::readlinkat(entry.number(), "", target.data(), target.size());
-        require(length >= 0);
-        target.resize(static_cast<std::size_t>(length));
-        place = place_in(place.folder.number(), place.folder_path, target);
+        require(!failed(length));
+        place = place_in(place.folder.number(), place.folder_path,
+                         std::string_view{target.data(), static_cast<std::size_t>(length)});
     }
     fail(ELOOP);
 }

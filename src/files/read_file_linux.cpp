@@ -28,8 +28,8 @@ std::string read_ordinary_file(std::filesystem::path const& path, std::size_t mo
     while (bytes.size() <= most) {
         ssize_t const count = uninterrupted([&] { return ::read(file.number(), block.data(), block.size()); });
         // Some files under /proc look ordinary but block their readers.
-        if (count < 0 && errno == EAGAIN) throw failure_of(Fault::not_a_file, path.native());
-        require(count >= 0);
+        if (failed(count) && errno == EAGAIN) throw failure_of(Fault::not_a_file, path.native());
+        require(!failed(count));
         if (count == 0) return bytes;
         bytes.append(block, 0, static_cast<std::size_t>(count));
     }

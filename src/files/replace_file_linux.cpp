@@ -72,7 +72,7 @@ public:
     void take_over_rights(Descriptor const& replaced) const
     {
         constexpr char const* access_list = "system.posix_acl_access"; // what further users and groups may do
-        auto const has_none = [](auto result) { return result < 0 && (errno == ENODATA || errno == ENOTSUP); };
+        auto const has_none = [](auto result) { return failed(result) && (errno == ENODATA || errno == ENOTSUP); };
         int const removed = ::fremovexattr(file_.number(), access_list); // the folder may have given it one of its own
         bool const is_free = removed == 0 || has_none(removed);
         auto const old = status_of(replaced);
@@ -92,8 +92,8 @@ public:
         std::string list(std::size_t{64} * 1024, '\0');
         ssize_t const size = ::fgetxattr(replaced.number(), access_list, list.data(), list.size());
         bool const no_list = is_free && has_none(size); // any other error may hide a list
-        bool const same_list =
-            no_list || (size > 0 && same_group && ::fsetxattr(file_.number(), access_list, list.data(), size, 0) == 0);
+        bool const same_list = no_list || (!failed(size) && same_group &&
+                                           ::fsetxattr(file_.number(), access_list, list.data(), size, 0) == 0);
 
         mode_t mode = old.st_mode & 07777U;
         if (!same_owner || !same_group) mode &= 0777U;
@@ -108,7 +108,7 @@ public:
     {
         while (!bytes.empty()) {
             ssize_t const count = uninterrupted([&] { return ::write(file_.number(), bytes.data(), bytes.size()); });
-            require(count >= 0);
+            require(!failed(count));
             bytes.remove_prefix(static_cast<std::size_t>(count));
         }
     }

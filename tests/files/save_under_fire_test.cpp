@@ -26,7 +26,7 @@ struct Fire {
     bool knows_nameless_files = true;
     int error = EIO;
     char const* text = "The disk or network reported an error: ";
-    int read_error = 0, list_error = 0; // of every such call; 0: none
+    int read_error = 0, list_error = 0, mode_error = 0; // of every such call; 0: none
     int calls = 0;
     mode_t created = 0;                        // with these rights
     std::function<void()> before_open = [] {}; // what another program does then; once
@@ -83,7 +83,8 @@ int named(int result)
 
 extern "C" {
 UNDER_FIRE(int, close, (int file), (file), struck(), ended)
-UNDER_FIRE(int, fchmod, (int file, mode_t mode), (file, mode), struck(true), ended)
+UNDER_FIRE(int, fchmod, (int file, mode_t mode), (file, mode),
+           (fire != nullptr && fails_always(fire->mode_error)) || struck(true), ended)
 UNDER_FIRE(int, fchown, (int file, uid_t user, gid_t group), (file, user, group), struck(true), ended)
 UNDER_FIRE(ssize_t, fgetxattr, (int file, char const* name, void* value, size_t size), (file, name, value, size),
            (fire != nullptr && fails_always(fire->list_error)) || struck(), ended)
@@ -245,6 +246,16 @@ TEST(SaveUnderFire, removes_permissions_when_the_access_list_cannot_be_read)
     }
 }
 
+TEST(SaveUnderFire, does_without_permissions_only_where_the_system_has_none)
+{
+    TemporaryFolder const folder;
+    folder.write("x.Army", "old");
+    for (int const error : {EPERM, ENOTSUP, ENOSYS, EIO})
+        EXPECT_EQ(under_fire(Command::save, folder.path("x.Army"), "new", {.mode_error = error}),
+                  error == EIO ? refused : done)
+            << error;
+}
+
 TEST(LoadUnderFire, is_complete_or_rejected)
 {
     TemporaryFolder const folder;
@@ -268,6 +279,14 @@ TEST(LoadUnderFire, never_waits_for_a_special_file)
     folder.write("x.Army", "army");
     Fire const waits{.text = "This is not an ordinary file: ", .read_error = EAGAIN};
     EXPECT_EQ(under_fire(Command::load, folder.path("x.Army"), "army", waits), refused);
+}
+
+TEST(LoadUnderFire, waits_until_another_program_gives_up_its_lease)
+{
+    TemporaryFolder const folder;
+    folder.write("x.Army", "army");
+    Fire const leased{.blow = Blow::fails, .at = 2, .error = EAGAIN}; // the file is looked at first, then opened
+    EXPECT_EQ(under_fire(Command::load, folder.path("x.Army"), "army", leased), done);
 }
 
 TEST(UnderFire, the_cause_is_reported)
