@@ -36,8 +36,18 @@ TEST_F(ArmyScreen, starts_with_two_armies_alike_and_side_a_shown)
     EXPECT_EQ(form.cmbLevel.item(0) + " " + form.cmbLevel.item(form.cmbLevel.list_size() - 1), "1 20");
     EXPECT_TRUE(form.FrameArmy.visible());
     EXPECT_FALSE(form.FrameCombat.visible());
-    EXPECT_EQ(form.battle, BattleState{});
+    EXPECT_EQ(form.battle, (BattleState{0, 0, side_a_won, 0, 0, 0, 0, 0}));
     EXPECT_TRUE(desktop.boxes.empty());
+}
+
+TEST_F(ArmyScreen, counts_the_soldiers_again_when_it_computes_and_when_it_shows_an_army)
+{
+    form.CurArmy.UnitNum[0] = 7;
+    form.CalcTotal();
+    EXPECT_EQ(form.txtTotalNo.text(), "7");
+    form.CurArmy.TotalNo = 99;
+    form.CurArmy_Update();
+    EXPECT_EQ(form.CurArmy.TotalNo, 7);
 }
 
 TEST_F(ArmyScreen, recomputes_both_armies_after_every_change)

@@ -121,5 +121,13 @@ TEST(SimulateCommand, shows_the_exact_odds_and_the_sampling_error)
     }
 }
 
+TEST(SampleText, says_when_all_battles_ended_alike)
+{
+    Tally tally;
+    for (int battle = 0; battle < 100; ++battle) tally.count(side_a_won, 40, 5);
+    EXPECT_EQ(sample_text(tally, {}),
+              "100 battles; 95 % confidence: wins and ties within 9.8 points, average casualties within 0");
+}
+
 } // namespace
 } // namespace warhost
