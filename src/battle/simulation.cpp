@@ -24,8 +24,7 @@ double Tally::casualty_margin(int Index) const
     auto const number = static_cast<double>(battles());
     double const mean = mean_casualties(Index);
     double squares = 0;
-    visit_casualties(Index,
-                     [&](double count, double percent) { squares += count * (percent - mean) * (percent - mean); });
+    visit_casualties(Index, [&](double count, double percent) { squares += count * std::pow(percent - mean, 2); });
     // A small sample underestimates the deviation; half the scale is its upper bound.
     constexpr int few = 30;
     double const deviation = number < few ? highest_share / 2.0 : std::sqrt(squares / (number - 1));
@@ -59,7 +58,8 @@ template <class Source> void Simulation::run(Source& random, std::int32_t battle
     // Local copies of the state stay in registers.
     std::conditional_t<std::is_abstract_v<Source>, Source&, Source> source = random;
     int result_b = carried_over_.result_b;
-    Judgement const before{0, 0, 0, static_cast<std::int8_t>(carried_over_.victor_roll)};
+    Judgement before{};
+    before.roll = static_cast<std::int8_t>(carried_over_.victor_roll);
     Judgement const* shown = &before;
 
     auto const roll = [&] { return static_cast<std::size_t>(roll_d20(source) - 1); };

@@ -24,11 +24,9 @@ std::string proposed_file_name(std::string name)
     constexpr std::string_view not_in_names = "\\/:*?\"<>|.";
     constexpr std::size_t room = longest_file_name - file_extension.size();
     auto const inside_character = [&](std::size_t place) { return (name[place] & 0xC0) == 0x80; };
-    if (name.size() > room) {
-        std::size_t end = room;
-        while (end > 0 && inside_character(end)) --end;
-        name.resize(end);
-    }
+    std::size_t end = std::min(name.size(), room);
+    while (end > 0 && inside_character(end)) --end;
+    name.resize(end);
     std::replace_if(
         name.begin(), name.end(), [&](char c) { return not_in_names.find(c) != std::string_view::npos; }, '_');
     return name.append(file_extension);

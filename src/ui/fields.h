@@ -90,10 +90,7 @@ private:
 
 /// The place of a row of the misc panel.
 struct Place {
-    float Left = 0;
-    float Top = 0;
-    float Width = 0;
-    float Height = 0;
+    float Left, Top, Width, Height;
 };
 
 /// An editable text with a list of proposals: a range of whole numbers. Only the two ends are kept, as a range may
@@ -134,7 +131,7 @@ public:
     Notification Click;
     std::int16_t help_topic = 0; // 0: none
     bool visible = true;
-    Place place;
+    Place place{};
 
 private:
     int first_ = 0;
@@ -175,7 +172,7 @@ public:
     std::int16_t help_topic = 0;
     bool visible = true;
     bool striped = false; // light grey behind the row rather than the button-face colour
-    Place place;
+    Place place{};
 
 private:
     std::string caption_;

@@ -19,10 +19,7 @@ std::string caption_of(ModifierEntry const& entry)
 {
     std::string const range =
         entry.low == entry.high ? SignedText(entry.low) : SignedText(entry.low) + " to " + SignedText(entry.high);
-    std::string caption;
-    caption.reserve(entry.name.size() + range.size() + 3); // a name may fill a whole file
-    caption.append(entry.name).append(" (").append(range).append(")");
-    return std::string{without_outer(" ", caption)};
+    return std::string{without_outer(" ", entry.name + " (" + range + ")")};
 }
 
 /// Rows that are made with the list; the others are made when the panel is tall enough to show them.
