@@ -10,6 +10,7 @@ namespace {
 
 int allocations_left = -1;       // until one fails and all that follow; negative: none does
 bool memory_stays_short = false; // also after the program has given back a large block
+void* large_block = nullptr;     // the newest
 
 } // namespace
 
@@ -19,8 +20,10 @@ bool memory_stays_short = false; // also after the program has given back a larg
         allocations_left = 1;
         throw std::bad_alloc{};
     }
-    if (void* const memory = std::malloc(size > 0 ? size : 1)) return memory;
-    throw std::bad_alloc{};
+    void* const memory = std::malloc(size > 0 ? size : 1);
+    if (memory == nullptr) throw std::bad_alloc{};
+    if (size > 100'000) large_block = memory;
+    return memory;
 }
 [[gnu::noinline]] void* operator new(std::size_t size, std::nothrow_t const& /*tag*/) noexcept
 {
@@ -30,12 +33,15 @@ bool memory_stays_short = false; // also after the program has given back a larg
         return nullptr;
     }
 }
-[[gnu::noinline]] void operator delete(void* memory) noexcept { std::free(memory); }
-[[gnu::noinline]] void operator delete(void* memory, std::size_t size) noexcept
+[[gnu::noinline]] void operator delete(void* memory) noexcept
 {
+    if (memory != nullptr && memory == large_block) {
+        large_block = nullptr;
+        if (allocations_left == 1 && !memory_stays_short) allocations_left = 0;
+    }
     std::free(memory);
-    if (size > 100'000 && allocations_left == 1 && !memory_stays_short) allocations_left = 0;
 }
+[[gnu::noinline]] void operator delete(void* memory, std::size_t /*size*/) noexcept { operator delete(memory); }
 
 namespace warhost {
 namespace {
