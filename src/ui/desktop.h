@@ -46,8 +46,7 @@ struct FileDialog {
 
 /// The window's inner size in twips.
 struct ClientArea {
-    double width = 0;
-    double height = 0;
+    double width, height;
 };
 
 class Odds;

@@ -40,14 +40,15 @@ TEST_F(ArmyScreen, starts_with_two_armies_alike_and_side_a_shown)
     EXPECT_TRUE(desktop.boxes.empty());
 }
 
-TEST_F(ArmyScreen, counts_the_soldiers_again_when_it_computes_and_when_it_shows_an_army)
+TEST_F(ArmyScreen, sums_up_again_when_it_computes_and_when_it_shows_an_army)
 {
     form.CurArmy.UnitNum[0] = 7;
     form.CalcTotal();
     EXPECT_EQ(form.txtTotalNo.text(), "7");
-    form.CurArmy.TotalNo = 99;
+    form.CurArmy.TotalNo = form.CurArmy.TotalMod = 99;
     form.CurArmy_Update();
     EXPECT_EQ(form.CurArmy.TotalNo, 7);
+    EXPECT_EQ(form.txtTotal.text(), "20");
 }
 
 TEST_F(ArmyScreen, recomputes_both_armies_after_every_change)
