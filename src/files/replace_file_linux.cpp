@@ -11,6 +11,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <fcntl.h>
+#include <linux/limits.h>
 #include <string>
 #include <string_view>
 #include <sys/file.h>
@@ -89,7 +90,7 @@ public:
         bool const same_owner = own.st_uid == old.st_uid;
         bool const same_group = own.st_gid == old.st_gid;
 
-        std::string list(std::size_t{64} * 1024, '\0');
+        std::string list(XATTR_SIZE_MAX, '\0');
         ssize_t const size = ::fgetxattr(replaced.number(), access_list, list.data(), list.size());
         bool const no_list = is_free && has_none(size); // any other error may hide a list
         bool const same_list = no_list || (!failed(size) && same_group &&
