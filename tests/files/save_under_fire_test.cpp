@@ -30,6 +30,7 @@ struct Fire {
     int calls = 0;
     mode_t created = 0;                        // with these rights
     std::function<void()> before_open = [] {}; // what another program does then; once
+    std::function<void()> before_lock = [] {};
     bool failed = false, file_flushed = false, folder_flushed = true, named_unflushed = false;
 };
 
@@ -57,6 +58,13 @@ bool fails_always(int error)
 {
     errno = error;
     return error != 0;
+}
+
+/// As on a network file system, where an exclusive lock needs a file that may be written.
+bool lock_fails(int file)
+{
+    if (fire != nullptr) std::exchange(fire->before_lock, [] {})();
+    return (::fcntl(file, F_GETFL) & O_ACCMODE) == O_RDONLY && fails_always(EBADF);
 }
 
 std::size_t cut(std::size_t count)
@@ -88,9 +96,7 @@ UNDER_FIRE(int, fchmod, (int file, mode_t mode), (file, mode),
 UNDER_FIRE(int, fchown, (int file, uid_t user, gid_t group), (file, user, group), struck(true), ended)
 UNDER_FIRE(ssize_t, fgetxattr, (int file, char const* name, void* value, size_t size), (file, name, value, size),
            (fire != nullptr && fails_always(fire->list_error)) || struck(), ended)
-// As on a network file system, where an exclusive lock needs a file that may be written.
-UNDER_FIRE(int, flock, (int file, int operation), (file, operation),
-           ((::fcntl(file, F_GETFL) & O_ACCMODE) == O_RDONLY && fails_always(EBADF)) || struck(), ended)
+UNDER_FIRE(int, flock, (int file, int operation), (file, operation), lock_fails(file) || struck(), ended)
 UNDER_FIRE(int, fstat, (int file, struct stat* status), (file, status), struck(), ended)
 UNDER_FIRE(int, fstatat, (int in, char const* path, struct stat* to, int flags), (in, path, to, flags), struck(), ended)
 UNDER_FIRE(int, linkat, (int from, char const* file, int to, char const* path, int flags),
@@ -227,6 +233,17 @@ TEST(SaveUnderFire, replaces_the_file_that_was_checked_when_a_link_changes_meanw
     auto const swap = [&] { ::unlink(link.c_str()) == 0 && ::symlink("two", link.c_str()) == 0 ? 0 : throw link; };
     EXPECT_EQ(under_fire(Command::save, link, "new", {.before_open = swap}), done);
     EXPECT_EQ(folder.read("one") + " " + folder.read("two"), "old new");
+}
+
+TEST(SaveUnderFire, makes_another_file_when_its_own_is_taken_for_abandoned_before_it_is_locked)
+{
+    TemporaryFolder const folder;
+    auto const clear = [&] {
+        for (auto const& name : folder.names()) std::filesystem::remove(folder.path(name));
+    };
+    auto const file = folder.path("x.Army");
+    EXPECT_EQ(under_fire(Command::save, file, "new", {.knows_nameless_files = false, .before_lock = clear}), done);
+    EXPECT_EQ(folder.read("x.Army"), "new");
 }
 
 TEST(SaveUnderFire, removes_permissions_when_the_access_list_cannot_be_read)
