@@ -1,28 +1,29 @@
-// What a user does, done again and again while one allocation after another fails.
+// What a user does, done again and again while memory runs out at one allocation after another.
 #include "files/army_format.h"
 #include "ui/agreement.h"
 #include "ui/test_desktop.h"
 
 #include <cstdlib>
 #include <new>
+#include <utility>
 
 namespace {
 
-int allocations_left = -1;       // until one fails and all that follow; negative: none does
-bool memory_stays_short = false; // also after the program has given back a large block
-void* large_block = nullptr;     // the newest
+constexpr std::size_t large = 100'000; // bytes; only the form's reserve is larger
+
+int allocations_left = -1;     // until memory runs out; negative: it never does
+bool memory_is_out = false;    // every allocation fails
+bool memory_stays_out = false; // also after the form has freed its reserve
+void* reserve = nullptr;       // of the newest form
 
 } // namespace
 
 [[gnu::noinline]] void* operator new(std::size_t size)
 {
-    if (allocations_left > 0 && --allocations_left == 0) {
-        allocations_left = 1;
-        throw std::bad_alloc{};
-    }
-    void* const memory = std::malloc(size > 0 ? size : 1);
+    if (allocations_left > 0 && --allocations_left == 0) memory_is_out = true;
+    void* const memory = memory_is_out ? nullptr : std::malloc(size > 0 ? size : 1);
     if (memory == nullptr) throw std::bad_alloc{};
-    if (size > 100'000) large_block = memory;
+    if (size > large) reserve = memory;
     return memory;
 }
 [[gnu::noinline]] void* operator new(std::size_t size, std::nothrow_t const& /*tag*/) noexcept
@@ -35,9 +36,9 @@ void* large_block = nullptr;     // the newest
 }
 [[gnu::noinline]] void operator delete(void* memory) noexcept
 {
-    if (memory != nullptr && memory == large_block) {
-        large_block = nullptr;
-        if (allocations_left == 1 && !memory_stays_short) allocations_left = 0;
+    if (memory != nullptr && memory == reserve) {
+        reserve = nullptr;
+        memory_is_out = memory_is_out && memory_stays_out;
     }
     std::free(memory);
 }
@@ -118,16 +119,15 @@ std::vector<Action> const actions{
     // clang-format on
 };
 
-/// Runs `run` while its n-th allocation fails and all that follow, or those until a large block is given back. Returns
+/// Runs `run` while memory runs out at its n-th allocation, for good or until the form frees its reserve. Returns
 /// whether it made so many.
 template <class Run> bool short_of_memory(int n, bool for_good, Run run)
 {
-    memory_stays_short = for_good;
+    memory_stays_out = for_good;
     allocations_left = n;
     EXPECT_NO_THROW(run());
-    bool const struck = allocations_left == 0 || allocations_left == 1;
-    allocations_left = -1;
-    return struck;
+    memory_is_out = false;
+    return std::exchange(allocations_left, -1) == 0;
 }
 
 bool act(Battle& battle, Action const& action, int n, bool for_good)
@@ -146,7 +146,8 @@ TEST(OutOfMemory, leaves_records_and_screen_in_agreement)
         for (bool const for_good : {false, true}) {
             bool struck = true;
             for (int n = 1; struck; ++n) {
-                SCOPED_TRACE(testing::Message() << action.name << ", allocation " << n << (for_good ? " on" : ""));
+                SCOPED_TRACE(testing::Message()
+                             << action.name << ", allocation " << n << (for_good ? ", for good" : ""));
                 Battle battle{action.tab};
                 struck = act(battle, action, n, for_good);
                 std::string const state = battle.everything();
