@@ -27,6 +27,9 @@ struct Fire {
     int error = EIO;
     char const* text = "The disk or network reported an error: ";
     int read_error = 0, list_error = 0, mode_error = 0; // of every such call; 0: none
+    std::string list = {};                              // the old file's access list; empty: what the system says
+    int given_error = 0;                                // of giving the new file a list
+    std::string given = {};
     int calls = 0;
     mode_t created = 0;                        // with these rights
     std::function<void()> before_open = [] {}; // what another program does then; once
@@ -60,11 +63,12 @@ bool fails_always(int error)
     return error != 0;
 }
 
-/// As on a network file system, where an exclusive lock needs a file that may be written.
-bool lock_fails(int file)
+/// Fails as on a network file system, where an exclusive lock needs a file that may be written.
+bool lock_struck(int file)
 {
     if (fire != nullptr) std::exchange(fire->before_lock, [] {})();
-    return (::fcntl(file, F_GETFL) & O_ACCMODE) == O_RDONLY && fails_always(EBADF);
+    if ((::fcntl(file, F_GETFL) & O_ACCMODE) == O_RDONLY && fails_always(EBADF)) return true;
+    return struck();
 }
 
 std::size_t cut(std::size_t count)
@@ -94,9 +98,7 @@ UNDER_FIRE(int, close, (int file), (file), struck(), ended)
 UNDER_FIRE(int, fchmod, (int file, mode_t mode), (file, mode),
            (fire != nullptr && fails_always(fire->mode_error)) || struck(true), ended)
 UNDER_FIRE(int, fchown, (int file, uid_t user, gid_t group), (file, user, group), struck(true), ended)
-UNDER_FIRE(ssize_t, fgetxattr, (int file, char const* name, void* value, size_t size), (file, name, value, size),
-           (fire != nullptr && fails_always(fire->list_error)) || struck(), ended)
-UNDER_FIRE(int, flock, (int file, int operation), (file, operation), lock_fails(file) || struck(), ended)
+UNDER_FIRE(int, flock, (int file, int operation), (file, operation), lock_struck(file), ended)
 UNDER_FIRE(int, fstat, (int file, struct stat* status), (file, status), struck(), ended)
 UNDER_FIRE(int, fstatat, (int in, char const* path, struct stat* to, int flags), (in, path, to, flags), struck(), ended)
 UNDER_FIRE(int, linkat, (int from, char const* file, int to, char const* path, int flags),
@@ -107,6 +109,22 @@ UNDER_FIRE(int, renameat, (int from, char const* file, int to, char const* path)
            named)
 UNDER_FIRE(int, stat, (char const* path, struct stat* status), (path, status), struck(), ended)
 UNDER_FIRE(int, unlinkat, (int folder, char const* path, int flags), (folder, path, flags), struck(), ended)
+
+ssize_t __real_fgetxattr(int file, char const* name, void* value, size_t size);
+ssize_t __wrap_fgetxattr(int file, char const* name, void* value, size_t size)
+{
+    if ((fire != nullptr && fails_always(fire->list_error)) || struck()) return -1;
+    if (fire == nullptr || fire->list.empty()) return ended(__real_fgetxattr(file, name, value, size));
+    if (fire->list.size() > size && fails_always(ERANGE)) return -1;
+    return static_cast<ssize_t>(fire->list.copy(static_cast<char*>(value), size));
+}
+
+int __wrap_fsetxattr(int /*file*/, char const* /*name*/, void const* value, size_t size, int /*flags*/)
+{
+    if (fails_always(fire->given_error)) return -1;
+    fire->given = {static_cast<char const*>(value), size};
+    return 0;
+}
 
 int __wrap_fsync(int file) // hundreds of saves need no disk
 {
@@ -246,21 +264,25 @@ TEST(SaveUnderFire, makes_another_file_when_its_own_is_taken_for_abandoned_befor
     EXPECT_EQ(folder.read("x.Army"), "new");
 }
 
-TEST(SaveUnderFire, removes_permissions_when_the_access_list_cannot_be_read)
+TEST(SaveUnderFire, keeps_the_access_list_or_removes_permissions)
 {
     TemporaryFolder const folder;
     auto const file = folder.path("x.Army");
-    for (int const error : {ENODATA, ENOTSUP, E2BIG, ERANGE, EACCES, EIO}) {
-        std::filesystem::perms const mode{error == ENODATA || error == ENOTSUP ? 0644U : 0600U};
+    auto const rights_after = [&](Fire save) {
         folder.write("x.Army", "old");
         std::filesystem::permissions(file, std::filesystem::perms{0644});
-        Fire no_list{.list_error = error};
-        fire = &no_list;
+        fire = &save;
         EXPECT_EQ(caught(replace_file, file, "new").text, "");
         fire = nullptr;
-        EXPECT_EQ(std::filesystem::status(file).permissions(), mode) << error;
-        EXPECT_EQ(no_list.created, 0600U); // nobody may open it before it has its own rights
-    }
+        EXPECT_EQ(save.created, 0600U); // nobody may open it before it has its own rights
+        EXPECT_EQ(save.given, save.given_error == 0 ? save.list : "");
+        return static_cast<unsigned>(std::filesystem::status(file).permissions());
+    };
+    for (int const error : {ENODATA, ENOTSUP, E2BIG, ERANGE, EACCES, EIO})
+        EXPECT_EQ(rights_after({.list_error = error}), error == ENODATA || error == ENOTSUP ? 0644U : 0600U) << error;
+    std::string const longest(65536, 'l');
+    EXPECT_EQ(rights_after({.list = longest}), 0644U);
+    EXPECT_EQ(rights_after({.list = longest, .given_error = EIO}), 0600U);
 }
 
 TEST(SaveUnderFire, does_without_permissions_only_where_the_system_has_none)
