@@ -89,7 +89,7 @@ private:
 };
 
 /// The place of a row of the misc panel.
-struct Place {
+struct RowPlace {
     float Left, Top, Width, Height;
 };
 
@@ -131,7 +131,7 @@ public:
     Notification Click;
     std::int16_t help_topic = 0; // 0: none
     bool visible = true;
-    Place place{};
+    RowPlace place{};
 
 private:
     int first_ = 0;
@@ -172,7 +172,7 @@ public:
     std::int16_t help_topic = 0;
     bool visible = true;
     bool striped = false; // light grey behind the row rather than the button-face colour
-    Place place{};
+    RowPlace place{};
 
 private:
     std::string caption_;

@@ -80,9 +80,9 @@ bool Main::add_misc_row()
 void Main::place_misc_row(int row)
 {
     auto const pixel = static_cast<float>(desktop_.twips_per_pixel_y());
-    Place& value = cmbMisc(row).place;
+    RowPlace& value = cmbMisc(row).place;
     value.Top = cmbMisc(row - 1).place.Top + value.Height - pixel;
-    Place& box = chkMisc(row).place;
+    RowPlace& box = chkMisc(row).place;
     box.Top = value.Top;
     box.Height = value.Height;
 }

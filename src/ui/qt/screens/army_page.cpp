@@ -104,7 +104,7 @@ QLayout* ArmyPage::top_line(Scale const& scale)
     auto* const total = make_.number_box(controls_.txtTotal, "Total of modifiers, this screen only", 49);
     total->set_type(type::total);
     add_labelled(*line, make_.label(controls_.Label4), total);
-    Place const& value = controls_.cmbMisc(0).place;
+    RowPlace const& value = controls_.cmbMisc(0).place;
     int const end = scale.from_twips(controls_.FrameMisc.box().Left + double{value.Left} + double{value.Width});
     line->setContentsMargins(0, 0, surface().findChild<QWidget*>()->width() - end, 0);
     return line;

@@ -25,7 +25,7 @@ namespace warhost {
 namespace {
 
 /// Each edge is rounded by itself, so that neighbouring rows touch.
-QRect geometry_of(Place const& place, Scale const& scale)
+QRect geometry_of(RowPlace const& place, Scale const& scale)
 {
     QPoint const top_left{scale.from_twips(place.Left), scale.from_twips(place.Top)};
     QPoint const behind{scale.from_twips(place.Left + place.Width), scale.from_twips(place.Top + place.Height)};
