@@ -50,7 +50,7 @@ using AllVictorRolls = std::array<std::array<VictorRolls, box_states>, highest_b
 using CarriedChances = std::array<Shown, die_sides>;
 
 /// Calls visit(meeting, die_b, boxes, chance) for each pair of dice and each state of the boxes before the victor's
-/// roll that can come about.
+/// roll. The chance may be 0.
 template <class Visitor> void visit_meetings(Results const& results, CarriedChances const& before, Visitor visit)
 {
     auto const evaluated_if = [&](auto const& is_tie) {
