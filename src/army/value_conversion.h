@@ -14,9 +14,8 @@ struct NumberFormat {
 };
 
 /// The leading number of a text: blanks, tabs and line feeds are removed first; then the longest prefix of sign,
-/// digits,
-/// ".", digits, exponent (E or D), or &H / &O and digits of that base. 0 when there is none. The separator is always
-/// ".". A number beyond double precision gives an infinity, one too small for it 0. Never fails.
+/// digits, ".", digits, exponent (E or D), or &H / &O and digits of that base. 0 when there is none. The separator is
+/// always ".". A number beyond double precision gives an infinity, one too small for it 0. Never fails.
 double leading_number(std::string_view text);
 
 /// The leading number limited to -32000..32000, then rounded with halves to even.

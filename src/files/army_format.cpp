@@ -95,7 +95,7 @@ public:
         for (unsigned i = 0; i < dimensions; ++i) {
             auto const elements = next_number<std::uint32_t>(field);
             next_number<std::uint32_t>(field); // the lower bound
-            // Limited, so that the product cannot overflow: the file cannot hold so many, unless a later dimension is 0.
+            // Limited against overflow: the file cannot hold so many, unless a later dimension is 0.
             count = std::min<std::uint64_t>(count, bytes_.size()) * elements;
         }
         std::size_t const smallest = element == Element::number ? 4 : 2;
