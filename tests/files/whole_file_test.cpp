@@ -76,8 +76,8 @@ TEST_F(WholeFile, is_read_up_to_64_MiB)
 TEST_F(WholeFile, clears_what_killed_saves_left_and_nothing_else)
 {
     for (char const* name : {".warhost-0.tmp", ".warhost-00ffa81c2b3d4e5f.tmp"}) write(name, "half");
-    std::set<std::string> others{".warhost-.tmp", ".warhost-notes.tmp", ".warhost-1.tmp.bak",
-                                 ".warhost-00ffa81c2b3d4e5f6.tmp", "warhost-1.tmp"};
+    std::set<std::string> others{".warhost-.tmp", ".warhost-notes.tmp", ".warhost-1.bak",
+                                 ".warhost-00ffa81c2b3d4e5f6.tmp", "warhosts-1.tmp"};
     for (auto const& name : others) write(name, "whole");
     fs::create_directory(path(".warhost-d.tmp"));
     others.insert({".warhost-d.tmp", "file"});
