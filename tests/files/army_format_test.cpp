@@ -116,7 +116,7 @@ TEST(CodePage, maps_every_byte_both_ways)
               "a\u20AC\u0081\u2026\u008D\u008F\u0090\u2122\u009D\u0178\u00A0\u00E9\u00FF");
     for (char const* outside : {"\u0080", "\u0100", "\uFFFD", "\xFF", "a\xC3", "\xE0\x80\x80", "\xED\xA0\x80"})
         EXPECT_TRUE(windows_1252_of_utf8(outside).outside.has_value()) << outside;
-    EXPECT_EQ(windows_1252_of_utf8("\U0010FFFF").outside, "\U0010FFFF (U+10FFFF)");
+    EXPECT_EQ(windows_1252_of_utf8("a\U0010FFFFbc").outside, "\U0010FFFF (U+10FFFF)");
     EXPECT_EQ(windows_1252_of_utf8("\xF4\x90\x80\x80").outside, "an invalid character");
 }
 
