@@ -117,7 +117,8 @@ TEST(CodePage, maps_every_byte_both_ways)
     for (char const* outside : {"\u0080", "\u0100", "\uFFFD", "\xFF", "a\xC3", "\xE0\x80\x80", "\xED\xA0\x80"})
         EXPECT_TRUE(windows_1252_of_utf8(outside).outside.has_value()) << outside;
     EXPECT_EQ(windows_1252_of_utf8("a\U0010FFFFbc").outside, "\U0010FFFF (U+10FFFF)");
-    EXPECT_EQ(windows_1252_of_utf8("\xF4\x90\x80\x80").outside, "an invalid character");
+    for (char const* invalid : {"\xED\xBF\xBF", "\xF4\x90\x80\x80"})
+        EXPECT_EQ(windows_1252_of_utf8(invalid).outside, "an invalid character");
 }
 
 } // namespace
