@@ -119,8 +119,10 @@ ssize_t __wrap_fgetxattr(int file, char const* name, void* value, size_t size)
     return static_cast<ssize_t>(fire->list.copy(static_cast<char*>(value), size));
 }
 
-int __wrap_fsetxattr(int /*file*/, char const* /*name*/, void const* value, size_t size, int /*flags*/)
+int __real_fsetxattr(int file, char const* name, void const* value, size_t size, int flags);
+int __wrap_fsetxattr(int file, char const* name, void const* value, size_t size, int flags)
 {
+    if (fire == nullptr || fire->list.empty()) return __real_fsetxattr(file, name, value, size, flags);
     if (fails_always(fire->given_error)) return -1;
     fire->given = {static_cast<char const*>(value), size};
     return 0;
