@@ -41,7 +41,7 @@ TEST(RichText, shows_text_bold_and_lines_and_skips_all_other_markup)
         {"escaped", R"({\rtf1 \\\b\{\}})", "\\[{}]"},
         {"unknown words and numbers", R"({\rtf1\foo\bar-12 x\baz7y})", "xy"},
         {"unknown groups, nested", R"({\rtf1 a{\*\gen {b}\b c\par}d{\info e{\b f}}g})", "adg"},
-        {"bytes in hex", R"({\rtf1 \'80\'e9\'zz})", "\u20ac\u00e9zz"},
+        {"bytes in hex", R"({\rtf1 \'80\'ea\'9f\'zz})", "\u20ac\u00ea\u0178zz"},
         {"raw bytes of the code page", "{\\rtf1 \x80\xe9}", "\u20ac\u00e9"},
         {"raw bytes of UTF-8", "{\\rtf1 \u20ac\u00e9\U0001F600}", "\u20ac\u00e9\U0001F600"},
         {"line ends", "{\\rtf1 a\r\nb\\par\r\nc}", "ab|c"},
