@@ -42,7 +42,7 @@ TEST(RichText, shows_text_bold_and_lines_and_skips_all_other_markup)
         {"unknown words and numbers", R"({\rtf1\foo\bar-12 x\baz7y})", "xy"},
         {"unknown groups, nested", R"({\rtf1 a{\*\gen {b}\b c\par}d{\info e{\b f}}g})", "adg"},
         {"bytes in hex", R"({\rtf1 \'80\'ea\'9f\'zz})", "\u20ac\u00ea\u0178zz"},
-        {"raw bytes of the code page", "{\\rtf1 \x80\xe9}", "\u20ac\u00e9"},
+        {"raw bytes of the code page", "{\\rtf1 \x80\xe9\t\x01\x7f}", "\u20ac\u00e9\t"},
         {"raw bytes of UTF-8", "{\\rtf1 \u20ac\u00e9\U0001F600}", "\u20ac\u00e9\U0001F600"},
         {"line ends", "{\\rtf1 a\r\nb\\par\r\nc}", "ab|c"},
         {"a negative number at the end", "{\\rtf1 a\\x-1", "a"},
