@@ -26,6 +26,7 @@ struct Fire {
     bool knows_nameless_files = true;
     int error = EIO;
     char const* text = "The disk or network reported an error: ";
+    char const* cause = "";                             // at the end of the message
     int read_error = 0, list_error = 0, mode_error = 0; // of every such call; 0: none
     std::string list = {};                              // the old file's access list; empty: what the system says
     int given_error = 0;                                // of giving the new file a list
@@ -180,8 +181,8 @@ Ending under_fire(Command command, std::string const& path, std::string const& b
         Failure const failure =
             caught([&] { command == Command::save ? replace_file(path, bytes) : void(loaded = read_file(path)); });
         bool const flushed = !blows.named_unflushed && (blows.folder_flushed || blows.failed);
-        bool const right =
-            failure.number == 0 ? loaded == bytes && flushed : failure.text.starts_with(blows.text + path);
+        std::string const message = blows.text + path + blows.cause;
+        bool const right = failure.number == 0 ? loaded == bytes && flushed : failure.text == message;
         ::_exit(!right ? wrong : failure.number != 0 ? refused : blows.calls < blows.at ? not_struck : done);
     }
     int status = 0;
@@ -200,7 +201,7 @@ TEST(SaveUnderFire, leaves_the_old_army_or_the_new_one_and_nothing_else)
                       {killed_before},
                       {killed_after},
                       {device_gone},
-                      {device_gone, 0, true, EEXIST, "The file could not be used: "}}) {
+                      {device_gone, 0, true, EEXIST, "The file could not be used: ", " (File exists)"}}) {
         for (auto const& [replaces, nameless] : {std::pair{false, false}, {false, true}, {true, false}, {true, true}}) {
             Ending ending = done;
             blow.knows_nameless_files = nameless;
